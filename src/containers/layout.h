@@ -1,0 +1,22 @@
+// Layout: the window's own parts and the inner parts of a container, from their present sizes; all in twips.
+// The one table of design measures for what has no told place stands in containers/measures.h.
+#pragma once
+
+#include "core/frmMain.h"
+
+namespace quill {
+
+void ResizeForm(frmMain& Main);
+void SetObjectRelativeSize(frmMain& Main, int Index);
+void DoRoundGradResizeSym(frmMain& Main, int Index, bool RedrawResizeMark);
+void ShowHideContainerToolbar(frmMain& Main, int Index, bool Show);
+void MoveLinkIcon(frmMain& Main, int Index);     // the icon beside its label
+void SetNewLinkHeight(frmMain& Main, int Index); // label and icon after a change of style
+int GetProperSpacing(int value);
+float IconEdge(const frmMain& Main, int ShortcutIndex); // twips
+void LockUnlockWindowMovement(frmMain& Main, bool Locked);
+// Height of what lies in a container's frame, and how far it is scrolled; clamps ScrollTop.
+float ContentHeight(const frmMain& Main, int Index);
+void ScrollContainer(frmMain& Main, int Index, float top);
+
+} // namespace quill

@@ -1,0 +1,53 @@
+// Docking as far as it stands: the helpers that place and show the window. The state machine that slides it
+// is listed under "not built yet".
+#pragma once
+
+#include "core/frmMain.h"
+
+namespace quill {
+
+// clsTick: decides which stream of frames is due. It never waits: the frame clock of the platform calls, and
+// the due streams are asked for. Times are nanoseconds of QueryPerformanceCounter.
+struct TickStream {
+    std::int64_t Period = 0;
+    std::int64_t NextDue = 0;
+    std::int64_t Count = 0;
+    bool Skip = false;
+};
+
+class clsTick {
+public:
+    int Add(double framesPerSecond, bool skipFlag); // index, or -1 for a rate that is not above 0
+    bool start(std::int64_t now);
+    // The due stream with the smallest next-due time, the earliest index in a tie; -1 when none is due yet.
+    int Due(std::int64_t now);
+    std::int64_t CountOf(int stream) const { return streams_[static_cast<std::size_t>(stream)].Count; }
+
+private:
+    std::vector<TickStream> streams_;
+};
+
+Rect VirtualDesktop(const frmMain& Main);
+Rect MonitorOf(const frmMain& Main, const Rect& window); // the nearest one, with its work area below
+Rect WorkAreaOf(const frmMain& Main, const Rect& window);
+void PlaceMain(frmMain& Main, const Rect& window); // moves and sizes frmMain, lays its parts
+void BringIntoView(frmMain& Main);                 // a floating workspace that no monitor shows
+void SetWindowOnTop(frmMain& Main);                // by [OnTop]
+void ApplyOpacity(frmMain& Main);
+void mnuMaximize_Click(frmMain& Main);
+void mnuLock_Click(frmMain& Main);
+void mnuOnTop_Click(frmMain& Main);
+void mnuPreventWindowMovement_Click(frmMain& Main);
+// Docking is held back while a question is open; one object a question.
+class DialogPause {
+public:
+    explicit DialogPause(frmMain& main) : dock_(main.Dock) { ++dock_.DialogPauses; }
+    ~DialogPause() { --dock_.DialogPauses; }
+    DialogPause(const DialogPause&) = delete;
+    DialogPause& operator=(const DialogPause&) = delete;
+
+private:
+    DockState& dock_;
+};
+
+} // namespace quill

@@ -1,0 +1,21 @@
+// Notes: the note box of a container: shown, hidden, edited, stamped. Encryption is not part of it.
+#pragma once
+
+#include "core/frmMain.h"
+
+#include <string>
+#include <string_view>
+
+namespace quill {
+
+bool NewNote(frmMain& Main, const std::string& Text, const std::string& Caption, bool NoDetach);
+void SelectNote(frmMain& Main, bool Selected, int Index);
+void lblPinNote_Click(frmMain& Main, int Index);
+void SetNoteText(frmMain& Main, int Index, std::string text); // not by typing: a new revision
+// Blanks, tabs, CR and LF off both ends.
+std::string_view CleanNoteText(std::string_view text);
+void TimerSaveNotes_Timer(frmMain& Main);
+// The word at the foot of a container: "Reminder", "Encrypted" or nothing.
+std::string FootText(const frmMain& Main, int Index);
+
+} // namespace quill

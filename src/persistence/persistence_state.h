@@ -1,0 +1,26 @@
+// What persistence remembers between a load and the saves after it.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+namespace quill {
+
+struct WrittenFile {
+    std::uint64_t Size = 0;
+    std::uint64_t Checksum = 0;
+};
+
+struct PersistenceState {
+    // What stands on the disk of the recovery generation, by name; lets a recovery save write only what
+    // differs.
+    std::map<std::string, WrittenFile> Recovery;
+    bool RecoveryKnown = false;
+    std::string SaveFailure;        // why the last save failed, for lblCaption; empty = it did not
+    std::string StoredEffect = "1"; // [Effect], in place only at the end of the load
+    bool ExitSaved = false;         // the exit's own save is over
+    bool Quit = false;              // the load ended the program
+};
+
+} // namespace quill

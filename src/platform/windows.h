@@ -1,0 +1,65 @@
+// Windows: top-level windows addressed by id, the monitors, the cursor and the foreground. Only its one file
+// in the backend knows what kind of native window stands behind an id. All places are twips on the virtual
+// desktop.
+#pragma once
+
+#include "platform/geometry.h"
+
+#include <vector>
+
+namespace quill {
+
+enum class WindowName {
+    frmMain,
+    frmSplash,
+    frmMiniDock,
+    frmMiniToolbar,
+    frmExplode,
+    frmTip,
+    frmContainer,
+    frmContainerLabel
+};
+
+struct WindowId {
+    WindowName Name;
+    int Index = -1; // the container of a detached window; -1 otherwise
+    auto operator<=>(const WindowId&) const = default;
+};
+
+// The numbers are those of the settings file.
+enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
+
+enum class Activate { No, Yes };
+
+struct Monitor {
+    Rect Place;
+    Rect WorkArea; // without panels
+};
+
+class Windows {
+public:
+    virtual ~Windows() = default;
+
+    virtual void Place(WindowId window, const Rect& place) = 0;
+    // Drains the marks first, so that what appears is what the tables say.
+    virtual void Show(WindowId window, Activate activate) = 0;
+    virtual void Hide(WindowId window) = 0;
+    virtual void SetState(WindowId window, WindowState state) = 0;
+    virtual void SetOpacity(WindowId window, int alpha) = 0; // 0 to 255; solid where nothing composes
+    virtual void SetWindowOnTop(WindowId window, bool topMost) = 0;
+    virtual void SetTaskbarEntry(WindowId window, bool shown) = 0;
+    virtual void SetForegroundWindow(WindowId window) = 0;
+    virtual bool IsForeground(WindowId window) const = 0;
+    // Moving and sizing with the pointer, begun by a press; ends with the release. Form_Moved follows.
+    virtual void BeginMove(WindowId window) = 0;
+    virtual void BeginResize(WindowId window, int edges) = 0; // sum of 1 left, 2 top, 4 right, 8 bottom
+
+    virtual std::vector<Monitor> Monitors() const = 0; // the primary one first, never empty
+    virtual Point GetCursorPos() const = 0;
+    virtual void SetCursorPos(Point place) = 0;
+};
+
+inline constexpr WindowId MainWindow{WindowName::frmMain};
+inline constexpr WindowId SplashWindow{WindowName::frmSplash};
+
+} // namespace quill
