@@ -17,6 +17,8 @@ float IconEdge(const frmMain& Main, int ShortcutIndex); // twips
 void LockUnlockWindowMovement(frmMain& Main, bool Locked);
 // Height of what lies in a container's frame, and how far it is scrolled; clamps ScrollTop.
 float ContentHeight(const frmMain& Main, int Index);
+// Scrolls as little as it takes to show a place of the container's surface.
+void ScrollIntoView(frmMain& Main, int Index, const Rect& place);
 void ScrollContainer(frmMain& Main, int Index, float top);
 
 } // namespace quill

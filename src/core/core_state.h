@@ -1,10 +1,13 @@
 // The core's own part of the workspace's state: how the program was started, the window and its title row.
 #pragma once
 
+#include "core/surfaces.h"
 #include "core/views.h"
 #include "platform/windows.h"
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace quill {
 
@@ -15,6 +18,12 @@ struct StartOptions {
     bool Backup = false, Silent = false, Help = false, HelpBox = false, Version = false;
     bool NoSplash = false, LoadRss = false, QuietFeedNames = false, Toggle = false;
     std::string Unknown; // first switch with "--" that nobody knows; empty = none
+};
+
+// A picture of the button set that is loaded.
+struct ButtonImage {
+    std::string Name; // "rss", "lock", "unlock" or "dock"
+    std::string File;
 };
 
 // The window and what lies on picBack beside the objects. Places in Place are relative to the window.
@@ -34,8 +43,17 @@ struct WorkspaceView {
     quill::Color CaptionForeColor = 0xFFFFFF;
     Element PicDock, PicLockToolbar, PicUnLockToolbar, PicMenu; // in picMoveMe
     bool TitleActive = true;
-    std::string WallpaperFile; // resolved; empty = none
+    std::string WallpaperFile;            // resolved; empty = none
+    Size WallpaperSize;                   // natural; 0 by 0 until it is first painted
+    std::vector<ButtonImage> ButtonFiles; // of the set; what it lacks is drawn from a symbol
     std::string SplashText;
+    std::int64_t SplashSince = 0; // GetTickCount when the load began
+    bool SplashVisible = false;
+    ElementId Focus;   // the element that the keyboard is on; Kind None: none
+    ElementId Pressed; // the element of the last press, until the release
+    SurfaceId PressedSurface;
+    SurfaceId FocusSurface;    // and where it lies
+    bool FocusVisible = false; // the keyboard was used last, so the focus is shown
 };
 
 } // namespace quill

@@ -5,7 +5,8 @@
 namespace quill {
 
 frmMain::frmMain(Platform platform)
-    : P(platform), Containers(1), ContainerViews(1), Shortcuts(1), ShortcutViews(1), Pictures(1), PictureViews(1) {
+    : P(platform), Containers(1), ContainerViews(1), Shortcuts(1), ShortcutViews(1), Pictures(1),
+      PictureViews(1) {
     InitDefaultSettings(Settings);
     InitAppearanceDefaults(Settings);
     View.Caption = std::string(ProgramName) + " " + ProgramVersion;

@@ -15,10 +15,11 @@ struct MarkSet {
     bool Splash = false;         // the splash's progress text
     std::vector<int> Containers; // place, visibility and content; may hold an index twice
     std::vector<int> Pictures;
+    int EditNote = -1;      // the note box of this container is to take the keyboard; -1: none
     std::vector<int> Notes; // text or looks of the note box
     bool Empty() const {
-        return !Everything && !Workspace && !Stacking && !Splash && Containers.empty() && Pictures.empty() &&
-               Notes.empty();
+        return !Everything && !Workspace && !Stacking && !Splash && EditNote == -1 && Containers.empty() &&
+               Pictures.empty() && Notes.empty();
     }
 };
 
@@ -30,6 +31,7 @@ public:
     void Splash() { pending_.Splash = true, Added(); }
     void Container(int index) { pending_.Containers.push_back(index), Added(); }
     void Picture(int index) { pending_.Pictures.push_back(index), Added(); }
+    void EditNote(int index) { pending_.EditNote = index, Added(); }
     void Note(int index) { pending_.Notes.push_back(index), Added(); }
 
     const MarkSet& Pending() const { return pending_; }

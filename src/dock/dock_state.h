@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 namespace quill {
+
+struct frmMain;
 
 struct DockState {
     int DockPosition = 0;     // 0 not docked, 1 top, 2 left, 3 right, 4 bottom
@@ -16,7 +19,9 @@ struct DockState {
     bool Align = false;           // mnuAlign is checked
     bool ClickToTagStart = false; // mnuClickToTagStart is checked
     bool Hidden = false;          // the user's own Hide
-    int DialogPauses = 0;         // dialogs that are open; above 0 nothing slides
+    // What runs at each frame while one is wanted; empty: nothing moves.
+    std::function<void(frmMain&)> FrameHandler;
+    int DialogPauses = 0; // dialogs that are open; above 0 nothing slides
 };
 
 } // namespace quill

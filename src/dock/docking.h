@@ -4,6 +4,9 @@
 
 #include "core/frmMain.h"
 
+#include <cstdint>
+#include <vector>
+
 namespace quill {
 
 // clsTick: decides which stream of frames is due. It never waits: the frame clock of the platform calls, and
@@ -32,7 +35,10 @@ Rect MonitorOf(const frmMain& Main, const Rect& window); // the nearest one, wit
 Rect WorkAreaOf(const frmMain& Main, const Rect& window);
 void PlaceMain(frmMain& Main, const Rect& window); // moves and sizes frmMain, lays its parts
 void BringIntoView(frmMain& Main);                 // a floating workspace that no monitor shows
-void SetWindowOnTop(frmMain& Main);                // by [OnTop]
+// Sum of the edges whose grip lies at a place of picBack, 0 for none or while movement is locked.
+enum GripEdge { EdgeLeft = 1, EdgeTop = 2, EdgeRight = 4, EdgeBottom = 8 };
+int GripEdgesAt(const frmMain& Main, Point at);
+void SetWindowOnTop(frmMain& Main); // by [OnTop]
 void ApplyOpacity(frmMain& Main);
 void mnuMaximize_Click(frmMain& Main);
 void mnuLock_Click(frmMain& Main);

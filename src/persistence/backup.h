@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/frmMain.h"
+#include "platform/result.h"
 
 #include <string>
 

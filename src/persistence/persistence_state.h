@@ -20,6 +20,7 @@ struct PersistenceState {
     std::string SaveFailure;        // why the last save failed, for lblCaption; empty = it did not
     std::string StoredEffect = "1"; // [Effect], in place only at the end of the load
     bool ExitSaved = false;         // the exit's own save is over
+    bool SaveAfterLoad = false;     // something was damaged: a recovery save follows the load at once
     bool Quit = false;              // the load ended the program
 };
 

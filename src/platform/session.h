@@ -26,6 +26,9 @@ public:
     virtual void Quit(int code) = 0;
     // Lets what is pending run once, where a told order says so.
     virtual void ProcessPending() = 0;
+    // Paints the splash with what its text says now, and lets no other event through: nothing may act on a
+    // workspace that is half loaded.
+    virtual void ShowSplashNow() = 0;
 
     virtual void PrintOut(const std::string& text) = 0;
     virtual void PrintError(const std::string& text) = 0;

@@ -8,6 +8,7 @@
 namespace quill {
 
 // Both append one row; its index is NextShortcutIndex - 1 afterwards. The limits are the callers' business.
+// While the workspace loads the path is taken as it is written; otherwise blanks and a separator at its end go.
 void AddFile(frmMain& Main, const std::string& path, Parent target, Point position);
 void AddURL(frmMain& Main, Parent target, const std::string& label, const std::string& address,
             Point position);
@@ -16,10 +17,19 @@ void AddURL(frmMain& Main, Parent target, const std::string& label, const std::s
 void AddPicture(frmMain& Main, const std::string& path, Parent target, const Rect& place, bool& ok);
 void DeleteShortcut(frmMain& Main, int Index);
 void DeletePicture(frmMain& Main, int Index);
+// The label in the colour, size and weight that the record and its parent say; to be measured again.
+void ApplyShortcutStyle(frmMain& Main, int Index);
+// Colour of its caption: its own, or that of where it lies.
+Color ShortcutInk(const frmMain& Main, int Index);
 // Caption of a path: the file name without ".lnk", ".exe", ".url" in any case.
 std::string CaptionOfPath(const std::string& path);
+// "@" in front is the mount point that holds the program; the older form with a drive's colon and
+// backslashes is understood. Any other path comes back as it is.
 std::string ExpandDriveMarker(const frmMain& Main, const std::string& path);
 std::string ToRelativePath(const frmMain& Main, const std::string& path);
 bool ShouldUseRelativePath(const frmMain& Main, const std::string& path);
+// The path as the file tree knows it: the marker expanded, and a "file://" address decoded, which is how a
+// path stands in the files that a line can't hold.
+std::string ResolvedPath(const frmMain& Main, const std::string& path);
 
 } // namespace quill

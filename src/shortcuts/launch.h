@@ -29,6 +29,9 @@ void ResolveRecentRows(frmMain& Main); // after a load
 
 void lblShortcut_MouseDown(frmMain& Main, int Index, const struct MouseEvent& event);
 void lblShortcut_MouseUp(frmMain& Main, int Index, const struct MouseEvent& event);
-void lblShortcut_DblClick(frmMain& Main, int Index);
+void lblShortcut_DblClick(frmMain& Main, int Index); // by [Dbl-Click]
+void picShortcut_DblClick(frmMain& Main, int Index); // always
+// Start all shortcuts in a container, asked about where that is set.
+void StartAllInContainer(frmMain& Main, int Index);
 
 } // namespace quill

@@ -1,0 +1,110 @@
+// The way out. Every step stands for itself: what one of them can't do does not keep the next from running.
+#include "core/start.h"
+
+#include "appearance/wallpaper.h"
+#include "containers/layout.h"
+#include "containers/shrink.h"
+#include "core/frmMain.h"
+#include "core/tr.h"
+#include "dock/docking.h"
+#include "persistence/load.h"
+#include "persistence/save.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/places.h"
+#include "platform/questions.h"
+#include "platform/session.h"
+#include "platform/shell.h"
+#include "platform/windows.h"
+
+namespace quill {
+namespace {
+
+void StopTimers(frmMain& Main) {
+    for (const auto name : {TimerName::TimerDontShrink, TimerName::TimerDblClickLabelDelay,
+                            TimerName::TimerSaveNotes, TimerName::TimerRestoreCaption}) {
+        Main.P.Clock.Stop({name});
+    }
+}
+
+void EraseTables(frmMain& Main) {
+    Main.Containers.clear();
+    Main.ContainerViews.clear();
+    Main.Shortcuts.clear();
+    Main.ShortcutViews.clear();
+    Main.Pictures.clear();
+    Main.PictureViews.clear();
+    Main.FeedViews.clear();
+}
+
+} // namespace
+
+void mnuExitApp_Click(frmMain& Main) {
+    mnuExitMainWin_Click(Main);
+}
+
+// The exit routine itself runs when the outermost loop is back, never inside an open question.
+void mnuExitMainWin_Click(frmMain& Main) {
+    Main.P.Session.Quit(0);
+}
+
+void UnloadMain(frmMain& Main) {
+    if (Main.IsExiting) return;
+    Main.IsExiting = true;
+    Main.Group.HoldExpanded = false;
+    ShrinkBackContainer(Main, false);
+    SaveWorkspace(Main, false, true);
+    StopTimers(Main);
+    Main.P.Windows.Hide(MainWindow);
+    Main.ZOrderList.clear();
+    Main.P.Session.ProcessPending();
+    EraseTables(Main);
+}
+
+void RestartIgnoringChanges(frmMain& Main) {
+    const auto reloader = Main.P.Places.ProgramFolder() + "/Reloader";
+    if (!Main.P.Files.Exists(reloader)) {
+        Main.P.Questions.MsgBox(Tr(Main, "Can't find: %1. Please reinstall the program.", reloader),
+                                BoxWarning, ProgramName);
+        return;
+    }
+    const auto question = Tr(Main, "Ignore all recent changes and restart the program?");
+    if (Main.P.Questions.MsgBox(question, BoxYesNo | BoxQuestion, ProgramName) != AnswerYes || Main.IsExiting)
+        return;
+    const auto recovery = Main.SettingsFolder + "/" + ProgramName + ".REC";
+    if (Main.P.Files.Exists(recovery) && !Main.P.Files.Remove(recovery)) return;
+    KillContainers(Main, "*.REC");
+    if (const auto started = Main.P.Shell.StartProgram(reloader, {}); !started) {
+        Main.P.Questions.MsgBox(Tr(Main, "Error: %1", started.Error().Text), BoxWarning, ProgramName);
+        return;
+    }
+    Main.g_DontSave = true;
+    mnuExitMainWin_Click(Main);
+}
+
+void mnuClearWorkspace_Click(frmMain& Main) {
+    const auto question =
+        Tr(Main, "Are you sure you want to delete all objects and start from scratch?") + "\n\n" +
+        Tr(Main,
+           "Reminder: You can always select [Ignore Changes] and revert back to the last time the workspace "
+           "was saved, even after clearing the workspace.");
+    const int answer = Main.P.Questions.MsgBox(question, BoxYesNo | BoxQuestion, Tr(Main, "Clear Workspace"));
+    if (answer == AnswerYes && !Main.IsExiting) ClearWorkspace(Main);
+}
+
+void mnuLoadDefaults_Click(frmMain& Main) {
+    const auto question = Tr(Main, "Load the default settings?");
+    const int answer =
+        Main.P.Questions.MsgBox(question, BoxYesNo | BoxQuestion, Tr(Main, "Default Settings"));
+    if (answer != AnswerYes || Main.IsExiting) return;
+    InitDefaultSettings(Main.Settings);
+    LoadWallpaper(Main);
+    LockUnlockWindowMovement(Main, Main.Settings.PreventWindowMovement);
+    SetWindowOnTop(Main);
+    ApplyOpacity(Main);
+    Main.P.Windows.SetTaskbarEntry(MainWindow, Main.Settings.ShowInTaskbar);
+    Main.Marks.Everything();
+    SaveWorkspace(Main, true, false);
+}
+
+} // namespace quill

@@ -1,0 +1,150 @@
+#include "core/handlers.h"
+
+#include "containers/fold.h"
+#include "containers/layout.h"
+#include "containers/shrink.h"
+#include "core/caption.h"
+#include "core/frmMain.h"
+#include "core/keyboard_focus.h"
+#include "core/routes.h"
+#include "core/start.h"
+#include "dock/docking.h"
+#include "notes/notes.h"
+#include "platform/session.h"
+#include "shortcuts/launch.h"
+
+#include <algorithm>
+
+namespace quill {
+namespace {
+
+constexpr float wheelStep = 900; // twips a notch
+
+bool IsShortcut(ElementKind kind) {
+    return kind == ElementKind::lblShortcut || kind == ElementKind::picShortcut;
+}
+
+// A click is a release on the element of the press. An element whose object died in between is not hit again.
+bool SameElement(const frmMain& Main, SurfaceId surface, const MouseEvent& event) {
+    const auto now = ElementAt(Main, surface, event.At);
+    return now == Main.View.Pressed && Main.View.PressedSurface == surface;
+}
+
+struct TimerRow {
+    TimerName Name;
+    void (*Tick)(frmMain&);
+};
+
+void TimerDblClickLabelDelay_Timer(frmMain& Main) {
+    Main.Group.DblClickGuard = false;
+    Main.P.Clock.Stop({TimerName::TimerDblClickLabelDelay});
+}
+
+constexpr TimerRow timers[] = {
+    {TimerName::TimerDontShrink, &TimerDontShrink_Timer},
+    {TimerName::TimerDblClickLabelDelay, &TimerDblClickLabelDelay_Timer},
+    {TimerName::TimerSaveNotes, &TimerSaveNotes_Timer},
+    {TimerName::TimerRestoreCaption, &TimerRestoreCaption_Timer},
+};
+
+bool BeginResizeAt(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
+    if (surface.Kind != SurfaceKind::Workspace || event.Button != MouseButton::Left) return false;
+    const int edges = GripEdgesAt(Main, event.At);
+    if (edges == 0) return false;
+    Main.P.Windows.BeginResize(MainWindow, edges);
+    return true;
+}
+
+} // namespace
+
+void MouseDown(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
+    if (Main.IsLoading || Main.IsExiting) return;
+    HideFocus(Main);
+    if (BeginResizeAt(Main, surface, event)) return;
+    Main.View.Pressed = ElementAt(Main, surface, event.At);
+    Main.View.PressedSurface = surface;
+    const auto pressed = Main.View.Pressed;
+    const auto* route = RouteOf(pressed.Kind);
+    if (route && route->Press) route->Press(Main, pressed.Index, event);
+}
+
+void MouseUp(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
+    if (Main.IsLoading || Main.IsExiting) return;
+    const auto pressed = Main.View.Pressed;
+    const bool same = pressed.Kind != ElementKind::None && SameElement(Main, surface, event);
+    Main.View.Pressed = {};
+    if (!same) return;
+    if (IsShortcut(pressed.Kind)) return lblShortcut_MouseUp(Main, pressed.Index, event);
+    const auto* route = RouteOf(pressed.Kind);
+    if (route && route->Click && event.Button == MouseButton::Left) route->Click(Main, pressed.Index, event);
+}
+
+void MouseDoubleClick(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
+    if (Main.IsLoading || Main.IsExiting || event.Button != MouseButton::Left) return;
+    const auto hit = ElementAt(Main, surface, event.At);
+    const auto* route = RouteOf(hit.Kind);
+    // The second press of a quick pair is a click of its own where no double-click is told.
+    if (!route || !route->DoubleClick) return MouseDown(Main, surface, event);
+    Main.View.Pressed = {};
+    route->DoubleClick(Main, hit.Index, event);
+}
+
+void MouseMove(frmMain&, SurfaceId, const MouseEvent&) {}
+void MouseLeave(frmMain&, SurfaceId) {}
+
+void MouseWheel(frmMain& Main, SurfaceId surface, const MouseEvent&, int steps) {
+    if (surface.Kind != SurfaceKind::Container || !IsLive(Main.Containers, surface.Index)) return;
+    ScrollContainer(Main, surface.Index,
+                    Main.ConView(surface.Index).ScrollTop - static_cast<float>(steps) * wheelStep);
+}
+
+void Timer_Tick(frmMain& Main, TimerId timer) {
+    if (Main.IsExiting) return;
+    const auto found = std::ranges::find(timers, timer.Name, &TimerRow::Name);
+    if (found != std::end(timers)) found->Tick(Main);
+}
+
+void Frame_Tick(frmMain& Main) {
+    if (!Main.IsExiting && Main.Dock.FrameHandler) Main.Dock.FrameHandler(Main);
+}
+
+void Form_Moved(frmMain& Main, const Rect& place) {
+    const bool sized = place.Width != Main.View.Window.Width || place.Height != Main.View.Window.Height;
+    Main.View.Window = place;
+    if (sized) ResizeForm(Main);
+}
+
+void Form_StateChanged(frmMain& Main, WindowState state) {
+    Main.View.State = state;
+}
+void Form_Closing(frmMain& Main) {
+    mnuExitMainWin_Click(Main);
+}
+
+void Screen_Changed(frmMain& Main) {
+    if (Main.IsLoading || Main.IsExiting) return;
+    if (Main.Dock.Maximized)
+        PlaceMain(Main, WorkAreaOf(Main, Main.View.Window));
+    else if (Main.Dock.DockPosition == 0)
+        BringIntoView(Main);
+}
+
+// A second start only ever brings out; so does the toggle for as long as nothing docks.
+void SecondStart(frmMain& Main, Summons) {
+    if (Main.IsExiting) return;
+    Main.Dock.Hidden = false;
+    Main.View.Visible = true;
+    if (Main.View.State == WindowState::Minimized) {
+        Main.View.State = WindowState::Normal;
+        Main.P.Windows.SetState(MainWindow, WindowState::Normal);
+    }
+    Main.P.Windows.Show(MainWindow, Activate::Yes);
+    SetWindowOnTop(Main);
+    Main.P.Windows.SetForegroundWindow(MainWindow);
+}
+
+void SessionEnd(frmMain& Main) {
+    Main.P.Session.Quit(0);
+}
+
+} // namespace quill

@@ -1,0 +1,36 @@
+// Names: what the files in the settings folder are called. All names here are relative to that folder
+// ("Quillmere.ini", "Containers/3.REC"). Only names that this file can spell are ever changed or removed by a
+// save; whatever else lies in the folder is the user's.
+#pragma once
+
+#include "platform/files.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quill {
+
+inline constexpr std::string_view CommittedSettings = "Quillmere.ini";
+inline constexpr std::string_view RecoverySettings = "Quillmere.REC";
+inline constexpr std::string_view ContainersFolder = "Containers";
+inline constexpr std::string_view CommittedExtension = ".con";
+inline constexpr std::string_view RecoveryExtension = ".REC";
+inline constexpr std::string_view OldBackupExtension = ".con.bak"; // written by older versions only
+
+std::string ContainerName(int number, std::string_view extension); // "Containers/3.con"
+// The number in "3.con" or "Containers/3.con"; none for another extension and for other spellings ("03.con").
+std::optional<int> NumberOf(std::string_view name, std::string_view extension);
+std::string_view BareName(std::string_view name); // what follows the last "/"
+
+// The first name that is free: as it is, then with 2, 3 ... behind it.
+std::string FreeName(const FileReader& files, const std::string& path);
+
+// "*" is any text, "?" any one character; letters compare without regard to case.
+bool MatchesPattern(std::string_view name, std::string_view pattern);
+
+// By number where a name begins with one, then by letters: 2.con before 10.con.
+void SortByNumber(std::vector<std::string>& names);
+
+} // namespace quill

@@ -1,0 +1,167 @@
+#include "shortcuts/create.h"
+
+#include "core/objects.h"
+#include "core/tr.h"
+#include "dock/docking.h"
+#include "platform/drawing.h"
+#include "platform/files.h"
+#include "platform/questions.h"
+#include "platform/shell.h"
+#include "shortcuts/launch.h"
+
+#include <algorithm>
+
+namespace quill {
+
+namespace {
+
+constexpr int NetworkTimeout = 5000; // milliseconds for a picture on a server to answer
+
+std::string Trimmed(const std::string& text) {
+    const auto first = text.find_first_not_of(" \t\r\n");
+    return first == std::string::npos ? std::string()
+                                      : text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+}
+
+// A separator at the end goes, but the root is nothing else.
+std::string WithoutEndSeparator(std::string path) {
+    while (path.size() > 1 && path.back() == '/') path.pop_back();
+    return path;
+}
+
+void MarkPlace(frmMain& Main, const Parent& in) {
+    if (in.Kind == ParentKind::ContainerFrame)
+        Main.Marks.Container(in.Index);
+    else
+        Main.Marks.Workspace();
+}
+
+// A row with its view. Nothing is measured and no icon is asked for before it is seen.
+int AppendShortcut(frmMain& Main, std::int16_t type, std::string path, std::string caption, Parent target,
+                   Point position) {
+    const int index = Main.NextShortcutIndex;
+    const auto rows = static_cast<std::size_t>(index) + 1;
+    if (Main.Shortcuts.size() < rows) {
+        Main.Shortcuts.resize(rows);
+        Main.ShortcutViews.resize(rows);
+    }
+    Main.Shortcuts[rows - 1].Index = index;
+    clsShortcut& record = Main.Link(index);
+    record.ShortcutType = type;
+    record.Path = std::move(path);
+    record.FontSize = static_cast<std::int16_t>(Main.Settings.FontSize);
+    ShortcutView& view = Main.LinkView(index);
+    view.In = target;
+    view.lblShortcut.Place = {position.X, position.Y, 0, 0};
+    view.lblShortcut.Caption = caption;
+    record.FullCaption = std::move(caption);
+    ++Main.NextShortcutIndex;
+    ApplyShortcutStyle(Main, index);
+    return index;
+}
+
+int AppendPicture(frmMain& Main, const std::string& path, Parent target, const Rect& place) {
+    const int index = Main.NextPictureIndex;
+    const auto rows = static_cast<std::size_t>(index) + 1;
+    if (Main.Pictures.size() < rows) {
+        Main.Pictures.resize(rows);
+        Main.PictureViews.resize(rows);
+    }
+    Main.Pictures[rows - 1].Index = index;
+    Main.Pic(index).Path = path;
+    Main.PicView(index) = {target, place, true, false};
+    ++Main.NextPictureIndex;
+    AddToZorderCollection(Main, {KindPicture, index}, false);
+    Main.Marks.Picture(index);
+    MarkPlace(Main, target);
+    return index;
+}
+
+// Whether the file of a loaded picture is there. A dead server must not hold up the load: it is asked off the
+// thread, and the picture may be gone or show another file when the answer comes.
+void LookForPicture(frmMain& Main, int index) {
+    const std::string path = ResolvedPath(Main, Main.Pic(index).Path);
+    if (!Main.P.Shell.PathIsNetworkPath(path)) {
+        Main.PicView(index).Missing = !Main.P.Files.Exists(path);
+        return;
+    }
+    Main.P.Shell.PathFileExists(path, NetworkTimeout, [&Main, index, written = Main.Pic(index).Path](bool there) {
+        if (Main.IsExiting || !IsLive(Main.Pictures, index) || Main.Pic(index).Path != written) return;
+        Main.PicView(index).Missing = !there;
+        Main.Marks.Picture(index);
+    });
+}
+
+// A picture that a person adds: refused when it is not there, and with words when it is no picture.
+bool CanShow(frmMain& Main, const std::string& path) {
+    if (!Main.P.Files.Exists(path)) return false;
+    if (Main.P.Images.PictureSize(path).Width > 0) return true;
+    const DialogPause pause(Main);
+    Main.P.Questions.MsgBox(Tr(Main, "Unable to load selected picture"), BoxOk | BoxWarning, ProgramName);
+    return false;
+}
+
+} // namespace
+
+Color ShortcutInk(const frmMain& Main, int Index) {
+    const clsShortcut& record = Main.Link(Index);
+    if (record.Color != -1) return record.Color;
+    const Parent& in = Main.LinkView(Index).In;
+    const bool inContainer = in.Kind == ParentKind::ContainerFrame && IsLive(Main.Containers, in.Index);
+    return inContainer ? Main.ConView(in.Index).FrameForeColor : Main.View.ForeColor;
+}
+
+void ApplyShortcutStyle(frmMain& Main, int Index) {
+    if (!IsLive(Main.Shortcuts, Index)) return;
+    const clsShortcut& record = Main.Link(Index);
+    ShortcutView& view = Main.LinkView(Index);
+    view.lblShortcut.FontSize = std::clamp(static_cast<float>(record.FontSize), 1.0F, 200.0F);
+    view.lblShortcut.FontBold = record.FontBold;
+    view.lblShortcut.ForeColor = ShortcutInk(Main, Index);
+    view.LabelMeasured = false;
+    MarkPlace(Main, view.In);
+}
+
+void AddFile(frmMain& Main, const std::string& path, Parent target, Point position) {
+    std::string taken = Main.IsLoading ? path : WithoutEndSeparator(Trimmed(path));
+    std::string caption = CaptionOfPath(taken);
+    AppendShortcut(Main, TypeFile, std::move(taken), std::move(caption), target, position);
+}
+
+void AddURL(frmMain& Main, Parent target, const std::string& label, const std::string& address, Point position) {
+    AppendShortcut(Main, TypeUrl, address, label.empty() ? address : label, target, position);
+}
+
+void AddPicture(frmMain& Main, const std::string& path, Parent target, const Rect& place, bool& ok) {
+    ok = Main.IsLoading || CanShow(Main, ResolvedPath(Main, Main.IsLoading ? path : Trimmed(path)));
+    if (!ok || Main.IsExiting) return;
+    std::string stored = Main.IsLoading ? path : Trimmed(path);
+    if (!Main.IsLoading && ShouldUseRelativePath(Main, stored)) stored = ToRelativePath(Main, stored);
+    const int index = AppendPicture(Main, stored, target, place);
+    if (Main.IsLoading) LookForPicture(Main, index);
+}
+
+void DeleteShortcut(frmMain& Main, int Index) {
+    if (!IsLive(Main.Shortcuts, Index)) return;
+    std::erase(Main.Links.SelectedShortcuts, Index);
+    RemoveFromRecent(Main, Index);
+    if (Main.Links.CurrentShortcut == Index) Main.Links.CurrentShortcut = -1;
+    const Parent in = Main.LinkView(Index).In;
+    Main.Shortcuts[static_cast<std::size_t>(Index)] = {};
+    Main.LinkView(Index) = {};
+    Main.LinkView(Index).Visible = false;
+    MarkPlace(Main, in);
+}
+
+void DeletePicture(frmMain& Main, int Index) {
+    if (!IsLive(Main.Pictures, Index)) return;
+    RemoveFromZorder(Main, {KindPicture, Index});
+    const Parent in = Main.PicView(Index).In;
+    Main.Pictures[static_cast<std::size_t>(Index)] = {};
+    Main.PicView(Index) = {};
+    Main.PicView(Index).Visible = false;
+    Main.Marks.Picture(Index);
+    MarkPlace(Main, in);
+}
+
+} // namespace quill

@@ -1,0 +1,95 @@
+// Paths of shortcuts: the drive marker, captions, and the form that the file tree knows.
+#include "shortcuts/create.h"
+
+#include "platform/places.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace quill {
+
+namespace {
+
+constexpr char DriveMarker = '@';
+constexpr std::string_view FileScheme = "file://";
+
+char LowerAscii(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+bool EndsWithAnyCase(std::string_view text, std::string_view ending) {
+    return text.size() >= ending.size() &&
+           std::equal(ending.begin(), ending.end(), text.end() - static_cast<std::ptrdiff_t>(ending.size()),
+                      [](char one, char other) { return one == LowerAscii(other); });
+}
+
+// The mount point of the program without a separator at its end: "" for the root.
+std::string ProgramDrive(const frmMain& Main) {
+    std::string mount = Main.P.Places.MountPoint(Main.P.Places.ProgramFolder());
+    while (!mount.empty() && mount.back() == '/') mount.pop_back();
+    return mount;
+}
+
+int HexDigit(char digit) {
+    const char lower = LowerAscii(digit);
+    if (lower >= '0' && lower <= '9') return lower - '0';
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
+std::string PercentDecoded(std::string_view text) {
+    std::string plain;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const int high = text[at] == '%' && at + 2 < text.size() ? HexDigit(text[at + 1]) : -1;
+        const int low = high >= 0 ? HexDigit(text[at + 2]) : -1;
+        if (low >= 0)
+            plain += static_cast<char>(high * 16 + low), at += 2;
+        else
+            plain += text[at];
+    }
+    return plain;
+}
+
+} // namespace
+
+std::string CaptionOfPath(const std::string& path) {
+    std::string name = path.substr(path.find_last_of('/') + 1);
+    if (name.empty()) return path; // the root
+    for (std::string_view ending : {".lnk", ".exe", ".url"})
+        if (EndsWithAnyCase(name, ending)) return name.substr(0, name.size() - ending.size());
+    return name;
+}
+
+std::string ExpandDriveMarker(const frmMain& Main, const std::string& path) {
+    if (path.empty() || path.front() != DriveMarker) return path;
+    std::string rest = path.substr(1);
+    if (!rest.empty() && rest.front() == ':') {
+        rest.erase(0, 1);
+        std::replace(rest.begin(), rest.end(), '\\', '/');
+    }
+    if (rest.empty() || rest.front() != '/') rest.insert(rest.begin(), '/');
+    return ProgramDrive(Main) + rest;
+}
+
+std::string ToRelativePath(const frmMain& Main, const std::string& path) {
+    const std::string drive = ProgramDrive(Main);
+    const bool below = path.compare(0, drive.size(), drive) == 0 && path.size() > drive.size() &&
+                       path[drive.size()] == '/';
+    return below ? DriveMarker + path.substr(drive.size()) : path;
+}
+
+bool ShouldUseRelativePath(const frmMain& Main, const std::string& path) {
+    if (!Main.PortableMode || path.empty() || path.front() != '/') return false;
+    const Places& places = Main.P.Places;
+    return places.MountPoint(path) == places.MountPoint(places.ProgramFolder()) &&
+           places.KindOfDrive(path) != DriveKind::Fixed;
+}
+
+std::string ResolvedPath(const frmMain& Main, const std::string& path) {
+    std::string resolved = ExpandDriveMarker(Main, path);
+    const std::string_view view = resolved;
+    if (view.substr(0, FileScheme.size()) != FileScheme || view.substr(FileScheme.size(), 1) != "/")
+        return resolved;
+    return PercentDecoded(view.substr(FileScheme.size()));
+}
+
+} // namespace quill
