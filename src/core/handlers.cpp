@@ -2,6 +2,8 @@
 
 #include "containers/fold.h"
 #include "containers/layout.h"
+#include "containers/resize.h"
+#include "containers/scroll.h"
 #include "containers/shrink.h"
 #include "core/caption.h"
 #include "core/frmMain.h"
@@ -17,8 +19,6 @@
 
 namespace quill {
 namespace {
-
-constexpr float wheelStep = 900; // twips a notch
 
 bool IsShortcut(ElementKind kind) {
     return kind == ElementKind::lblShortcut || kind == ElementKind::picShortcut;
@@ -70,6 +70,8 @@ void MouseDown(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
 
 void MouseUp(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return;
+    if (Main.Group.ScrollingContainer != -1) return VScroll_MouseUp(Main);
+    if (Main.Group.ResizingContainer != -1) return ResizeSymbol_MouseUp(Main, event);
     const auto pressed = Main.View.Pressed;
     const bool same = pressed.Kind != ElementKind::None && SameElement(Main, surface, event);
     Main.View.Pressed = {};
@@ -89,13 +91,17 @@ void MouseDoubleClick(frmMain& Main, SurfaceId surface, const MouseEvent& event)
     route->DoubleClick(Main, hit.Index, event);
 }
 
-void MouseMove(frmMain&, SurfaceId, const MouseEvent&) {}
+void MouseMove(frmMain& Main, SurfaceId, const MouseEvent& event) {
+    if (Main.IsLoading || Main.IsExiting) return;
+    if (Main.Group.ScrollingContainer != -1) VScroll_MouseMove(Main, event);
+    if (Main.Group.ResizingContainer != -1) ResizeSymbol_MouseMove(Main, event);
+}
+
 void MouseLeave(frmMain&, SurfaceId) {}
 
 void MouseWheel(frmMain& Main, SurfaceId surface, const MouseEvent&, int steps) {
-    if (surface.Kind != SurfaceKind::Container || !IsLive(Main.Containers, surface.Index)) return;
-    ScrollContainer(Main, surface.Index,
-                    Main.ConView(surface.Index).ScrollTop - static_cast<float>(steps) * wheelStep);
+    const bool container = surface.Kind == SurfaceKind::Container && IsLive(Main.Containers, surface.Index);
+    if (container) ContainerFrame_MouseWheel(Main, surface.Index, steps);
 }
 
 void Timer_Tick(frmMain& Main, TimerId timer) {

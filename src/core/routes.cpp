@@ -1,7 +1,9 @@
 #include "core/routes.h"
 
 #include "containers/fold.h"
-#include "containers/shrink.h"
+#include "containers/gestures.h"
+#include "containers/resize.h"
+#include "containers/scroll.h"
 #include "core/frmMain.h"
 #include "core/menus.h"
 #include "core/objects.h"
@@ -21,12 +23,9 @@ void WorkspaceMenu(frmMain& Main, const MouseEvent& event) {
 }
 
 void PressBack(frmMain& Main, int, const MouseEvent& event) {
+    if (event.Button == MouseButton::Left) return picBack_MouseDown(Main, event);
     Main.Group.ContainerHasFocus = false;
-    if (event.Button != MouseButton::Left) return WorkspaceMenu(Main, event);
-    Main.Group.HoldExpanded = false;
-    Main.Group.NewContainerPos = event.At;
-    ShrinkBackContainer(Main, true);
-    AutoFoldContainer(Main, Main.Group.AutoFoldContainerIndex);
+    WorkspaceMenu(Main, event);
 }
 
 void PressTitle(frmMain& Main, int, const MouseEvent& event) {
@@ -46,27 +45,27 @@ void ClickLock(frmMain& Main, int, const MouseEvent&) {
     mnuLock_Click(Main);
 }
 
-// Every press in a container addresses it and brings it to the front.
-void PressContainer(frmMain& Main, int Index, const MouseEvent& event) {
-    Main.Group.CurrentContainer = Index;
-    AddToZorderCollection(Main, {KindContainer, Index}, false);
-    if (event.Button != MouseButton::Right) return;
+// While its menu is open a container that is expanded for the moment stays so.
+void ContainerMenu(frmMain& Main, const MouseEvent& event) {
     Main.Group.HoldExpanded = true;
     PopupMenu(Main, MenuName::Container, event.Screen);
     Main.Group.HoldExpanded = false;
 }
 
-void PressLabel(frmMain& Main, int Index, const MouseEvent& event) {
-    Main.Group.ContainerHasFocus = true;
-    PressContainer(Main, Index, event);
+template <auto Press> void PressWithMenu(frmMain& Main, int Index, const MouseEvent& event) {
+    Press(Main, Index, event);
+    if (event.Button == MouseButton::Right) ContainerMenu(Main, event);
 }
+
+constexpr auto PressContainer = &PressWithMenu<&Container_MouseDown>;
+constexpr auto PressLabel = &PressWithMenu<&ContainerLabel_MouseDown>;
+constexpr auto PressTile = &PressWithMenu<&ContainerIcon_MouseDown>;
 
 void DoubleClickLabel(frmMain& Main, int Index, const MouseEvent&) {
     ContainerLabel_DblClick(Main, Index);
 }
-
 void DoubleClickEmptyPlace(frmMain& Main, int Index, const MouseEvent&) {
-    if (!IsShrunk(Main, Index) && !IsFolded(Main, Index)) ExpandShrinkContainer(Main, Index, true);
+    ContainerFrame_DblClick(Main, Index);
 }
 
 bool StartsAll(const frmMain& Main, int Index) {
@@ -74,16 +73,21 @@ bool StartsAll(const frmMain& Main, int Index) {
     return Main.Settings.DblClickToStartAll && kind != ContainerKind::Note && kind != ContainerKind::Feed;
 }
 
-void ClickTile(frmMain& Main, int Index, const MouseEvent& event) {
-    const bool plain = !event.Shift && !event.Ctrl && !event.Alt;
-    if (plain && !Main.Settings.DblClickToStartAll) ExpandShrinkContainer(Main, Index, true);
-}
-
 void DoubleClickTile(frmMain& Main, int Index, const MouseEvent&) {
     if (StartsAll(Main, Index))
         StartAllInContainer(Main, Index);
     else
-        ExpandShrinkContainer(Main, Index, true);
+        ContainerIcon_DblClick(Main, Index);
+}
+
+void PressResizeMark(frmMain& Main, int Index, const MouseEvent& event) {
+    Container_MouseDown(Main, Index, event);
+    ResizeSymbol_MouseDown(Main, Index, event);
+}
+
+void PressScrollBar(frmMain& Main, int Index, const MouseEvent& event) {
+    Container_MouseDown(Main, Index, event);
+    VScroll_MouseDown(Main, Index, event);
 }
 
 void ClickFoldMark(frmMain& Main, int Index, const MouseEvent&) {
@@ -93,7 +97,7 @@ void ClickPin(frmMain& Main, int Index, const MouseEvent&) {
     lblPinNote_Click(Main, Index);
 }
 void ClickShrinkMark(frmMain& Main, int Index, const MouseEvent&) {
-    ExpandShrinkContainer(Main, Index, true);
+    shapeShrink_Click(Main, Index);
 }
 
 void PressShortcut(frmMain& Main, int Index, const MouseEvent& event) {
@@ -118,19 +122,20 @@ constexpr Route routes[] = {
     {ElementKind::PicMenu, nullptr, &ClickMenuButton, nullptr},
     {ElementKind::PicLockToolbar, nullptr, &ClickLock, nullptr},
     {ElementKind::PicUnLockToolbar, nullptr, &ClickLock, nullptr},
-    {ElementKind::Container, &PressContainer, nullptr, &DoubleClickEmptyPlace},
-    {ElementKind::ContainerFrame, &PressContainer, nullptr, &DoubleClickEmptyPlace},
-    {ElementKind::ContainerLabel, &PressLabel, nullptr, &DoubleClickLabel},
-    {ElementKind::ContainerIcon, &PressLabel, &ClickTile, &DoubleClickTile},
-    {ElementKind::lblFoldUnfold, &PressContainer, &ClickFoldMark, nullptr},
-    {ElementKind::lblPinNote, &PressContainer, &ClickPin, nullptr},
-    {ElementKind::shapeShrink, &PressContainer, &ClickShrinkMark, nullptr},
-    {ElementKind::shapeTags, &PressContainer, nullptr, nullptr},
-    {ElementKind::shapeNoteIndicator, &PressContainer, &ClickPin, nullptr},
-    {ElementKind::ResizeSymbol, &PressContainer, nullptr, nullptr},
-    {ElementKind::LstRSS, &PressContainer, nullptr, nullptr},
-    {ElementKind::lblRSSLastUpdate, &PressContainer, nullptr, nullptr},
-    {ElementKind::ContainerNote, &PressContainer, nullptr, nullptr},
+    {ElementKind::Container, PressContainer, nullptr, &DoubleClickEmptyPlace},
+    {ElementKind::ContainerFrame, PressContainer, nullptr, &DoubleClickEmptyPlace},
+    {ElementKind::ContainerLabel, PressLabel, nullptr, &DoubleClickLabel},
+    {ElementKind::ContainerIcon, PressTile, &ContainerIcon_MouseUp, &DoubleClickTile},
+    {ElementKind::lblFoldUnfold, PressContainer, &ClickFoldMark, nullptr},
+    {ElementKind::lblPinNote, PressContainer, &ClickPin, nullptr},
+    {ElementKind::shapeShrink, PressContainer, &ClickShrinkMark, nullptr},
+    {ElementKind::shapeTags, PressContainer, nullptr, nullptr},
+    {ElementKind::shapeNoteIndicator, PressContainer, &ClickPin, nullptr},
+    {ElementKind::ResizeSymbol, &PressResizeMark, nullptr, nullptr},
+    {ElementKind::VScroll, &PressScrollBar, nullptr, nullptr},
+    {ElementKind::LstRSS, PressContainer, nullptr, nullptr},
+    {ElementKind::lblRSSLastUpdate, PressContainer, nullptr, nullptr},
+    {ElementKind::ContainerNote, PressContainer, nullptr, nullptr},
     {ElementKind::lblShortcut, &PressShortcut, nullptr, &DoubleClickShortcut},
     {ElementKind::picShortcut, &PressShortcut, nullptr, &DoubleClickShortcutIcon},
     {ElementKind::PicContainer, &PressPicture, nullptr, nullptr},

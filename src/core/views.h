@@ -59,6 +59,7 @@ struct NoteView : Element {
     quill::Color ForeColor = 0;
     std::uint32_t Revision = 0; // counts every change of Text that did not come from typing
     float ScrollTop = 0;
+    std::uint32_t FocusWish = 0; // counts the times that the box is to take the focus, caret behind the text
 };
 
 struct ContainerView {

@@ -1,0 +1,12 @@
+// Lower case for comparing, in every alphabet that has two cases. Knows no language: what a person reads is
+// never made with it.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quill {
+
+std::string LowerCase(std::string_view utf8); // bytes that are no UTF-8 stay as they are
+
+} // namespace quill
