@@ -1,6 +1,6 @@
 #include "appearance/colors.h"
 
-#include "core/objects.h"
+#include "containers/layout.h"
 
 #include <algorithm>
 #include <cmath>
@@ -47,9 +47,8 @@ void SetColors(frmMain& Main, int Index, Color color) {
     ContainerView& view = Main.ConView(Index);
     view.ContainerBackColor = ContrastColor(color);
     view.FrameBackColor = color;
-    view.shapeTags.Visible = !Main.Con(Index).ShowingTag.empty();
-    view.Gradient = Main.Settings.GradientContainers && !IsShrunk(Main, Index);
-    Main.Marks.Container(Index);
+    ShowHideContainerToolbar(Main, Index, !Main.Con(Index).HideToolbar); // the tag mark with it
+    DoRoundGradResizeSym(Main, Index, false);
 }
 
 void SetLabelColors(frmMain& Main, int Index, Color color) {

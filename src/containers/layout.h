@@ -10,8 +10,12 @@ void ResizeForm(frmMain& Main);
 void SetObjectRelativeSize(frmMain& Main, int Index);
 void DoRoundGradResizeSym(frmMain& Main, int Index, bool RedrawResizeMark);
 void ShowHideContainerToolbar(frmMain& Main, int Index, bool Show);
-void MoveLinkIcon(frmMain& Main, int Index);     // the icon beside its label
-void SetNewLinkHeight(frmMain& Main, int Index); // label and icon after a change of style
+void MoveLinkIcon(frmMain& Main, int Index); // the icon beside its label
+// Measures the text and sizes label and icon: when a shortcut is first seen and after a change of style.
+void SetNewLinkHeight(frmMain& Main, int Index);
+// Where label and icon are in their parent; near enough while the text was never measured.
+Rect LabelPlace(const frmMain& Main, int Index);
+Rect IconPlace(const frmMain& Main, int Index);
 int GetProperSpacing(int value);
 float IconEdge(const frmMain& Main, int ShortcutIndex); // twips
 void LockUnlockWindowMovement(frmMain& Main, bool Locked);

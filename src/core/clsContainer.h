@@ -19,7 +19,7 @@ struct StoredRect {
 
 // What changes of a remembered rectangle; an empty field is kept.
 struct RectChange {
-    std::optional<float> X, Y, H, W;
+    std::optional<float> X{}, Y{}, H{}, W{};
 };
 
 // Whole twips.

@@ -1,6 +1,7 @@
 #include "core/handlers.h"
 
 #include "containers/fold.h"
+#include "containers/gestures.h"
 #include "containers/layout.h"
 #include "containers/resize.h"
 #include "containers/scroll.h"
@@ -60,6 +61,7 @@ bool BeginResizeAt(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
 void MouseDown(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return;
     HideFocus(Main);
+    Main.Group.PressedTile = -1;
     if (BeginResizeAt(Main, surface, event)) return;
     Main.View.Pressed = ElementAt(Main, surface, event.At);
     Main.View.PressedSurface = surface;
@@ -83,6 +85,7 @@ void MouseUp(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
 
 void MouseDoubleClick(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (Main.IsLoading || Main.IsExiting || event.Button != MouseButton::Left) return;
+    if (EndsOpeningClick(Main)) return;
     const auto hit = ElementAt(Main, surface, event.At);
     const auto* route = RouteOf(hit.Kind);
     // The second press of a quick pair is a click of its own where no double-click is told.

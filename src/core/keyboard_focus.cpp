@@ -53,7 +53,9 @@ void SetFocus(frmMain& Main, const FocusPlace& place) {
     if (place.Surface.Kind == SurfaceKind::Container) {
         Main.Group.CurrentContainer = place.Surface.Index;
         Main.Group.ContainerHasFocus = true;
-        ScrollIntoView(Main, place.Surface.Index, place.Element.Place);
+        // The title row never scrolls.
+        if (place.Element.Id.Kind == ElementKind::lblShortcut)
+            ScrollIntoView(Main, place.Surface.Index, place.Element.Whole);
     }
     if (place.Element.Id.Kind == ElementKind::lblShortcut)
         Main.Links.CurrentShortcut = place.Element.Id.Index;

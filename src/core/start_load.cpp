@@ -110,7 +110,7 @@ void LoadSettings(frmMain& Main) {
     auto files = ChooseGeneration(Main);
     DeferredSettings stored;
     std::vector<int> startup;
-    if (!ReadWorkspace(Main, files, stored, startup)) {
+    if (!SettleGeneration(Main, files) || !ReadWorkspace(Main, files, stored, startup)) {
         Main.Store.Quit = true;
         return;
     }

@@ -61,7 +61,8 @@ enum class Role { Pane, Title, Button, Label, ListItem, Note, Image, Grip, Scrol
 
 struct ElementInfo {
     ElementId Id;
-    Rect Place; // twips from the surface's corner
+    Rect Place; // twips from the surface's corner; empty for a shortcut that is scrolled out of its frame
+    Rect Whole; // the same uncut by the frame that it lies in
     quill::Role Role = Role::Label;
     std::string Name;   // what a person calls it
     std::string Action; // what a press does, empty for nothing

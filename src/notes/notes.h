@@ -12,6 +12,8 @@ bool NewNote(frmMain& Main, const std::string& Text, const std::string& Caption,
 void SelectNote(frmMain& Main, bool Selected, int Index);
 void lblPinNote_Click(frmMain& Main, int Index);
 void SetNoteText(frmMain& Main, int Index, std::string text); // not by typing: a new revision
+// By typing: the box holds it already. False when nothing differs.
+bool TypeNoteText(frmMain& Main, int Index, const std::string& text);
 // Blanks, tabs, CR and LF off both ends.
 std::string_view CleanNoteText(std::string_view text);
 void TimerSaveNotes_Timer(frmMain& Main);

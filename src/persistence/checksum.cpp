@@ -15,7 +15,9 @@ std::uint64_t Word(const char* bytes) {
     return word;
 }
 
-std::uint64_t Mixed(std::uint64_t sum, std::uint64_t word) { return std::rotl(sum ^ word * odd1, 29) * odd2; }
+std::uint64_t Mixed(std::uint64_t sum, std::uint64_t word) {
+    return std::rotl(sum ^ word * odd1, 29) * odd2;
+}
 
 } // namespace
 

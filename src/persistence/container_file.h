@@ -24,8 +24,7 @@ ContainerRecord RecordOfContainer(const frmMain& Main, int Index);
 // be used again for the next file, which saves its memory.
 std::optional<Damage> ParseContainer(std::string_view bytes, ContainerRecord& record);
 
-enum class Applied { Yes, AtLimit };
-// Makes the container and all that lies in it. AtLimit: the message was shown, nothing was made.
-Applied ApplyContainer(frmMain& Main, const ContainerRecord& record);
+// Makes the container and all that lies in it. False at the limit: the message was shown, nothing was made.
+bool ApplyContainer(frmMain& Main, const ContainerRecord& record);
 
 } // namespace quill

@@ -7,9 +7,13 @@
 namespace quill {
 namespace {
 
-char Lower(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter; }
+char Lower(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
+}
 
-bool SameLetter(char one, char other) { return Lower(one) == Lower(other); }
+bool SameLetter(char one, char other) {
+    return Lower(one) == Lower(other);
+}
 
 int LeadingNumber(std::string_view name) {
     int number = std::numeric_limits<int>::max();
@@ -46,6 +50,16 @@ std::string FreeName(const FileReader& files, const std::string& path) {
     std::string name = path;
     for (int next = 2; files.Exists(name); ++next) name = path + std::to_string(next);
     return name;
+}
+
+std::string AsideName(const FileReader& files, const std::string& folder, const std::string& name) {
+    return FreeName(files, folder + "/" + name + ".aside").substr(folder.size() + 1);
+}
+
+int RunLength(const NameSet& standing) {
+    int length = 0;
+    while (standing.contains(ContainerName(length, CommittedExtension))) ++length;
+    return length;
 }
 
 // Goes back to the last "*" whenever the letters behind it differ.

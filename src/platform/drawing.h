@@ -31,7 +31,7 @@ struct Pen {
 
 // Where the icon of a file comes from. Empty File and Kind "": nothing.
 struct IconSource {
-    std::string File;      // the target itself, an .ico or image file
+    std::string File;      // the target itself, an .ico or image file; "https://" for what opens addresses
     std::string ThemeName; // a name of the icon theme, asked first when it is not empty
     bool IsImage = false;  // File is the image itself and not something that has an icon
 };

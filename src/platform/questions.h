@@ -41,6 +41,10 @@ struct InputQuestion {
     std::string Caption; // the prompt
     std::string Text;    // what stands in the box; the answer afterwards
     bool Password = false;
+    std::string OtherCaption; // a second way to go on, beside OK and Cancel; empty: there is none
+    bool Other = false;       // afterwards: that way was taken
+    std::string CheckCaption; // a check box below the text; empty: there is none
+    bool Checked = false;     // the box; the answer afterwards
 };
 
 class Questions {
@@ -48,7 +52,7 @@ public:
     virtual ~Questions() = default;
 
     virtual int MsgBox(const std::string& text, int flags, const std::string& title) = 0;
-    // False when it was cancelled; Text is untouched then.
+    // False when it was cancelled; the question is untouched then. True for OK and for the other way.
     virtual bool AskInput(InputQuestion& question) = 0;
     // The Id of the chosen line, -1 for none. The place is twips on the virtual desktop.
     virtual int PopupMenu(const std::vector<MenuLine>& lines, Point place) = 0;

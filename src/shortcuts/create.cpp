@@ -29,6 +29,17 @@ std::string WithoutEndSeparator(std::string path) {
     return path;
 }
 
+// A Folder Connector shows its files by their whole names.
+bool KeepsWholeName(const frmMain& Main, const Parent& target) {
+    return target.Kind == ParentKind::ContainerFrame && IsLive(Main.Containers, target.Index) &&
+           KindOf(Main, target.Index) == ContainerKind::FolderConnector;
+}
+
+std::string NameOfPath(const std::string& path) {
+    const std::string name = path.substr(path.find_last_of('/') + 1);
+    return name.empty() ? path : name;
+}
+
 void MarkPlace(frmMain& Main, const Parent& in) {
     if (in.Kind == ParentKind::ContainerFrame)
         Main.Marks.Container(in.Index);
@@ -85,11 +96,12 @@ void LookForPicture(frmMain& Main, int index) {
         Main.PicView(index).Missing = !Main.P.Files.Exists(path);
         return;
     }
-    Main.P.Shell.PathFileExists(path, NetworkTimeout, [&Main, index, written = Main.Pic(index).Path](bool there) {
-        if (Main.IsExiting || !IsLive(Main.Pictures, index) || Main.Pic(index).Path != written) return;
-        Main.PicView(index).Missing = !there;
-        Main.Marks.Picture(index);
-    });
+    Main.P.Shell.PathFileExists(
+        path, NetworkTimeout, [&Main, index, written = Main.Pic(index).Path](bool there) {
+            if (Main.IsExiting || !IsLive(Main.Pictures, index) || Main.Pic(index).Path != written) return;
+            Main.PicView(index).Missing = !there;
+            Main.Marks.Picture(index);
+        });
 }
 
 // A picture that a person adds: refused when it is not there, and with words when it is no picture.
@@ -111,34 +123,43 @@ Color ShortcutInk(const frmMain& Main, int Index) {
     return inContainer ? Main.ConView(in.Index).FrameForeColor : Main.View.ForeColor;
 }
 
+void TakeShortcutStyle(frmMain& Main, int Index) {
+    const clsShortcut& record = Main.Link(Index);
+    EruLabel& label = Main.LinkView(Index).lblShortcut;
+    label.FontSize = std::clamp(static_cast<float>(record.FontSize), 1.0F, 200.0F);
+    label.FontBold = record.FontBold;
+    if (label.BackStyle != 1) label.ForeColor = ShortcutInk(Main, Index); // a selected one has its own
+}
+
 void ApplyShortcutStyle(frmMain& Main, int Index) {
     if (!IsLive(Main.Shortcuts, Index)) return;
-    const clsShortcut& record = Main.Link(Index);
-    ShortcutView& view = Main.LinkView(Index);
-    view.lblShortcut.FontSize = std::clamp(static_cast<float>(record.FontSize), 1.0F, 200.0F);
-    view.lblShortcut.FontBold = record.FontBold;
-    view.lblShortcut.ForeColor = ShortcutInk(Main, Index);
-    view.LabelMeasured = false;
-    MarkPlace(Main, view.In);
+    TakeShortcutStyle(Main, Index);
+    Main.LinkView(Index).LabelMeasured = false;
+    MarkPlace(Main, Main.LinkView(Index).In);
 }
 
 void AddFile(frmMain& Main, const std::string& path, Parent target, Point position) {
     std::string taken = Main.IsLoading ? path : WithoutEndSeparator(Trimmed(path));
-    std::string caption = CaptionOfPath(taken);
+    std::string caption = KeepsWholeName(Main, target) ? NameOfPath(taken) : CaptionOfPath(taken);
     AppendShortcut(Main, TypeFile, std::move(taken), std::move(caption), target, position);
 }
 
-void AddURL(frmMain& Main, Parent target, const std::string& label, const std::string& address, Point position) {
+void AddURL(frmMain& Main, Parent target, const std::string& label, const std::string& address,
+            Point position) {
     AppendShortcut(Main, TypeUrl, address, label.empty() ? address : label, target, position);
 }
 
 void AddPicture(frmMain& Main, const std::string& path, Parent target, const Rect& place, bool& ok) {
-    ok = Main.IsLoading || CanShow(Main, ResolvedPath(Main, Main.IsLoading ? path : Trimmed(path)));
-    if (!ok || Main.IsExiting) return;
-    std::string stored = Main.IsLoading ? path : Trimmed(path);
-    if (!Main.IsLoading && ShouldUseRelativePath(Main, stored)) stored = ToRelativePath(Main, stored);
-    const int index = AppendPicture(Main, stored, target, place);
-    if (Main.IsLoading) LookForPicture(Main, index);
+    ok = true;
+    if (Main.IsLoading) {
+        LookForPicture(Main, AppendPicture(Main, path, target, place));
+        return;
+    }
+    std::string stored = Trimmed(path);
+    ok = CanShow(Main, ResolvedPath(Main, stored)) && !Main.IsExiting;
+    if (!ok) return;
+    if (ShouldUseRelativePath(Main, stored)) stored = ToRelativePath(Main, stored);
+    AppendPicture(Main, stored, target, place);
 }
 
 void DeleteShortcut(frmMain& Main, int Index) {

@@ -8,7 +8,8 @@
 namespace quill {
 
 // Both append one row; its index is NextShortcutIndex - 1 afterwards. The limits are the callers' business.
-// While the workspace loads the path is taken as it is written; otherwise blanks and a separator at its end go.
+// While the workspace loads the path is taken as it is written; otherwise blanks and a separator at its end
+// go.
 void AddFile(frmMain& Main, const std::string& path, Parent target, Point position);
 void AddURL(frmMain& Main, Parent target, const std::string& label, const std::string& address,
             Point position);
@@ -19,6 +20,7 @@ void DeleteShortcut(frmMain& Main, int Index);
 void DeletePicture(frmMain& Main, int Index);
 // The label in the colour, size and weight that the record and its parent say; to be measured again.
 void ApplyShortcutStyle(frmMain& Main, int Index);
+void TakeShortcutStyle(frmMain& Main, int Index); // the same for the painter: marks nothing
 // Colour of its caption: its own, or that of where it lies.
 Color ShortcutInk(const frmMain& Main, int Index);
 // Caption of a path: the file name without ".lnk", ".exe", ".url" in any case.

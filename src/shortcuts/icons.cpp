@@ -9,7 +9,8 @@ namespace quill {
 
 namespace {
 
-constexpr std::string_view ImageEndings[] = {".png", ".jpg", ".jpeg", ".gif", ".bmp", ".svg", ".ico", ".webp"};
+constexpr std::string_view ImageEndings[] = {".png", ".jpg", ".jpeg", ".gif",
+                                             ".bmp", ".svg", ".ico",  ".webp"};
 
 std::string Ending(std::string_view path) {
     const auto name = path.substr(path.find_last_of('/') + 1);
@@ -29,6 +30,12 @@ IconSource OwnIcon(const frmMain& Main, const std::string& icon) {
     return {{}, Ending(path).empty() ? path : std::string(), false};
 }
 
+// All addresses of a scheme share the icon of the program that opens them, and one look-up.
+std::string SchemeOf(const std::string& address) {
+    const auto end = address.find("://");
+    return end == std::string::npos ? "https://" : address.substr(0, end + 3);
+}
+
 } // namespace
 
 bool IsImageName(std::string_view path) {
@@ -39,7 +46,7 @@ bool IsImageName(std::string_view path) {
 IconSource GetIconSource(const frmMain& Main, int Index, bool UseCustom) {
     const clsShortcut& record = Main.Link(Index);
     if (UseCustom && !record.Icon.empty()) return OwnIcon(Main, record.Icon);
-    if (record.ShortcutType == TypeUrl) return {{}, "web-browser", false};
+    if (record.ShortcutType == TypeUrl) return {SchemeOf(record.Path), {}, false};
     if (record.Command) return {{}, "utilities-terminal", false};
     const std::string path = ResolvedPath(Main, record.Path);
     return {path, {}, IsImageName(path)};
@@ -48,7 +55,8 @@ IconSource GetIconSource(const frmMain& Main, int Index, bool UseCustom) {
 std::string_view GenericSymbol(const clsShortcut& record) {
     if (record.ShortcutType == TypeUrl) return "generic-link";
     const std::string ending = Ending(record.Path);
-    if (record.Command || ending == ".desktop" || ending == ".exe" || ending == ".appimage") return "generic-program";
+    if (record.Command || ending == ".desktop" || ending == ".exe" || ending == ".appimage")
+        return "generic-program";
     if (!ending.empty()) return "generic-file";
     return record.Path.find("/bin/") != std::string::npos ? "generic-program" : "generic-folder";
 }

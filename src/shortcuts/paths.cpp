@@ -72,8 +72,8 @@ std::string ExpandDriveMarker(const frmMain& Main, const std::string& path) {
 
 std::string ToRelativePath(const frmMain& Main, const std::string& path) {
     const std::string drive = ProgramDrive(Main);
-    const bool below = path.compare(0, drive.size(), drive) == 0 && path.size() > drive.size() &&
-                       path[drive.size()] == '/';
+    const bool below =
+        path.compare(0, drive.size(), drive) == 0 && path.size() > drive.size() && path[drive.size()] == '/';
     return below ? DriveMarker + path.substr(drive.size()) : path;
 }
 

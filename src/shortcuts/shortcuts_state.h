@@ -28,6 +28,7 @@ struct ShortcutsState {
     std::vector<RecentRow> RecentRows;  // read, not resolved yet
     std::vector<std::string> Subjects;  // subjects to track, at most MaxSubjects
     std::int64_t PressTick = 0;         // GetTickCount of the last press on a label
+    int ClickStarted = -1;              // shortcut that the last release has started; -1 after a press
     bool ErrorShowing = false;          // a failed start is being told
 };
 

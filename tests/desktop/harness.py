@@ -13,6 +13,7 @@ happened" can be told as well. Everything started here is ended by `close`, also
 """
 
 import ctypes
+import functools
 import os
 import re
 import select
@@ -33,6 +34,8 @@ WINDOW_MANAGERS = {
     "xfwm4": ["xfwm4", "--compositor=off"],
     "kwin": ["kwin_x11"],
     "mutter": ["mutter", "--x11", "--sm-disable"],
+    "icewm": ["icewm"],
+    "metacity": ["metacity", "--sm-disable"],
 }
 NEEDS_BUS = {"kwin", "mutter", "xfwm4"}
 
@@ -118,7 +121,7 @@ class Desktop:
         address = self._start_bus() if bus or self.wm in NEEDS_BUS else BROKEN_BUS
         self.env["DBUS_SESSION_BUS_ADDRESS"] = address
         if self.wm:
-            self._start_window_manager()
+            self._start_window_manager(self.wm)
         if not bus:
             self.env["DBUS_SESSION_BUS_ADDRESS"] = BROKEN_BUS
         if compositor:
@@ -156,8 +159,9 @@ class Desktop:
             raise Waited("the session bus did not come up: " + self.log_of("dbus-daemon"))
         return process.stdout.readline().decode().strip()
 
-    def _start_window_manager(self):
-        self._background(WINDOW_MANAGERS[self.wm])
+    def _start_window_manager(self, name):
+        self.wm = name
+        self._background(WINDOW_MANAGERS[name])
         until(self._window_manager_stands, "%s stands: %s" % (self.wm, self.log_of(self.wm)))
         until(self._window_manager_hears, "%s hears messages: %s" % (self.wm, self.log_of(self.wm)))
 
@@ -167,11 +171,22 @@ class Desktop:
 
     def _window_manager_hears(self):
         """It announces itself before it listens, and what is said in between is lost: so ask again."""
-        self.x.ask_frame_extents()
+        ask, answered = self._question()
+        ask()
         try:
-            return until(self.x.frame_extents_answered, "", patience=0.3)
+            return until(answered, "", patience=0.3)
         except Waited:
             return False
+
+    def _question(self):
+        if self.wm == "kwin":
+            return self.x.ask_state, self.x.state_answered
+        return self.x.ask_frame_extents, self.x.frame_extents_answered
+
+    def start_window_manager(self, name):
+        """For a desktop that came up without one."""
+        self._start_window_manager(name)
+        self.settle()
 
     def _start_compositor(self):
         self._background(["picom", "--backend", "xrender", "--no-vsync", "--no-fading-openclose"])
@@ -202,17 +217,17 @@ class Desktop:
             self.x.close()
             self.x = None
         for app in self.apps:
-            _end(app.process)
+            app.close()
         for process in reversed(self._processes):
             _end(process)
         self.apps, self._processes = [], []
         shutil.rmtree(self.home, ignore_errors=True)
 
-    def start(self, program, args=(), env=None, stdin=None):
+    def start(self, program, args=(), env=None):
         """Starts a program: a bare name stands in bin/ of the build folder, or else in the PATH."""
         built = os.path.join(build_folder(), "bin", program)
         path = built if os.path.exists(built) else program
-        app = App(self, [path, *args], {**self.env, **(env or {})}, stdin)
+        app = App(self, [path, *args], {**self.env, **(env or {})})
         self.apps.append(app)
         return app
 
@@ -226,16 +241,18 @@ class Desktop:
         return (x + width // 2, y + height // 2)
 
     def windows(self):
-        """All windows that the window manager manages, bottom to top."""
-        return self.x.numbers(self.x.root, "_NET_CLIENT_LIST_STACKING")
+        """All managed windows, bottom to top as the server shows them: what the window manager announces
+        about their order may lag behind."""
+        places = {top: place for place, top in enumerate(self.x.children(self.x.root))}
+        found = [w for w in self.x.numbers(self.x.root, "_NET_CLIENT_LIST") if not self.x.is_own(w)]
+        return sorted(found, key=lambda w: places.get(self.x.top_level(w), -1))
 
     stacking = windows
 
     def is_above(self, upper, lower):
-        """By what the server really shows, so that unmanaged windows are told too."""
+        """Windows that nobody manages can be told as well."""
         order = self.x.children(self.x.root)
-        places = [next((i for i, top in enumerate(order) if self.x.has_ancestor(w, top)), -1) for w in (upper, lower)]
-        return places[0] > places[1]
+        return order.index(self.x.top_level(upper)) > order.index(self.x.top_level(lower))
 
     def active_window(self):
         return self.x.number(self.x.root, "_NET_ACTIVE_WINDOW")
@@ -343,24 +360,33 @@ class Desktop:
         self.x.sync()
         if not self.wm:
             return
-        self.x.ask_frame_extents()
-        until(self.x.frame_extents_answered, "%s answers a question: %s" % (self.wm, self.log_of(self.wm)))
+        ask, answered = self._question()
+        ask()
+        until(answered, "%s answers a question: %s" % (self.wm, self.log_of(self.wm)))
 
 
 class App:
     """A program under test."""
 
-    def __init__(self, desktop, args, env, stdin):
+    def __init__(self, desktop, args, env):
         self.desktop = desktop
-        self._errors = tempfile.TemporaryFile()
-        self.process = _spawn(args, env, stdin=stdin or subprocess.DEVNULL, stdout=subprocess.PIPE,
-                              stderr=self._errors)
+        self._last_words = None  # both outputs, kept when it is closed
+        self._output, self._errors = tempfile.TemporaryFile(), tempfile.TemporaryFile()
+        self.process = _spawn(args, env, stdin=subprocess.PIPE, stdout=self._output, stderr=self._errors)
 
     @property
     def stderr(self):
-        """All that it wrote to its error stream so far."""
-        self._errors.seek(0)
-        return self._errors.read().decode("utf-8", "replace")
+        """All that it wrote to its error stream so far; stdout likewise."""
+        return self._last_words[1] if self._last_words else _text_of(self._errors)
+
+    @property
+    def stdout(self):
+        return self._last_words[0] if self._last_words else _text_of(self._output)
+
+    def say(self, line):
+        """Writes a line to its standard input, for programs made to be driven that way."""
+        self.process.stdin.write(line.encode() + b"\n")
+        self.process.stdin.flush()
 
     def running(self):
         return self.process.poll() is None
@@ -415,11 +441,26 @@ class App:
         self.process.terminate()
         return self.wait_exit()
 
+    def close(self):
+        """Ends it whatever it does. Its output can still be read."""
+        if self.process.stdin.closed:
+            return
+        _end(self.process)
+        self._last_words = self.stdout, self.stderr
+        self._output.close()
+        self._errors.close()
+
     def wait_exit(self):
         try:
             return self.process.wait(timeout=PATIENCE)
         except subprocess.TimeoutExpired:
             raise Waited("the program does not end; " + self.stderr) from None
+
+
+def _text_of(file):
+    """Read from the start, at a place of its own: the program's own place in the file must not move."""
+    size = os.fstat(file.fileno()).st_size
+    return os.pread(file.fileno(), size, 0).decode("utf-8", "replace")
 
 
 class DesktopTest(unittest.TestCase):
@@ -432,7 +473,7 @@ class DesktopTest(unittest.TestCase):
         super().__init__(method)
         body = getattr(self, method, None)
         if body:
-            setattr(self, method, lambda: self._run_with_picture(body))
+            setattr(self, method, functools.partial(self._run_with_picture, body))
 
     def setUp(self):
         self.desktop = Desktop(**self.desktop_options)

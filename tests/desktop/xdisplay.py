@@ -14,6 +14,7 @@ Atom = ctypes.c_ulong
 _ZPIXMAP = 2
 _ALL_PLANES = ctypes.c_ulong(-1).value
 _SUBSTRUCTURE_NOTIFY = 1 << 19
+_LISTENED = _SUBSTRUCTURE_NOTIFY | (1 << 17)  # some toolkits answer pings to StructureNotify only
 _SUBSTRUCTURE_MASKS = _SUBSTRUCTURE_NOTIFY | (1 << 20)  # the second is SubstructureRedirect
 _CLIENT_MESSAGE = 33
 
@@ -72,7 +73,7 @@ class XDisplay:
         self._atoms = {}
         self._own = None
         self._pings, self._pings_answered = 0, set()
-        _X11.XSelectInput(self._handle, Window(self.root), ctypes.c_long(_SUBSTRUCTURE_NOTIFY))
+        _X11.XSelectInput(self._handle, Window(self.root), ctypes.c_long(_LISTENED))
 
     def close(self):
         if self._handle:
@@ -161,9 +162,28 @@ class XDisplay:
             _X11.XFree(items)
         return found
 
+    def parent(self, window):
+        """0 for the root, and for a window that is gone."""
+        root, parent, count = Window(), Window(), ctypes.c_uint()
+        items = ctypes.POINTER(Window)()
+        found = _X11.XQueryTree(self._handle, Window(window), ctypes.byref(root), ctypes.byref(parent),
+                                ctypes.byref(items), ctypes.byref(count))
+        if found and items:
+            _X11.XFree(items)
+        return parent.value if found else 0
+
     def has_ancestor(self, window, ancestor):
-        """True for the window itself too. Window managers put their frames between."""
-        return window == ancestor or any(self.has_ancestor(window, c) for c in self.children(ancestor))
+        """True for the window itself too."""
+        while window and window != ancestor:
+            window = self.parent(window)
+        return bool(window)
+
+    def top_level(self, window):
+        """The child of the root that holds the window: its frame, or itself where it has none."""
+        above = self.parent(window)
+        while above and above != self.root:
+            window, above = above, self.parent(above)
+        return window
 
     def keyboard_window(self):
         """The window that receives keys at this moment, whatever the window manager announces."""
@@ -202,19 +222,45 @@ class XDisplay:
     def selection_owner(self, selection):
         return _X11.XGetSelectionOwner(self._handle, Atom(selection))
 
+    # Asking the window manager whether it has worked off what came before. It works in order, so when the
+    # answer stands, everything that any program asked of it earlier is done.
+
     def ask_frame_extents(self):
-        """Asks the window manager a question about a window of our own; see frame_extents_answered."""
+        """The lightest question, about a window that is never shown. Not every window manager answers it."""
         if self._own is None:
-            self._own = _X11.XCreateSimpleWindow(self._handle, Window(self.root), 0, 0, 8, 8, 0,
-                                                 ctypes.c_ulong(0), ctypes.c_ulong(0))
+            self._own = self._create_window()
         _X11.XDeleteProperty(self._handle, Window(self._own), Atom(self.atom("_NET_FRAME_EXTENTS")))
         self.sync()
         self.message(self._own, "_NET_REQUEST_FRAME_EXTENTS")
 
     def frame_extents_answered(self):
-        """True once the answer stands. The window manager works in order, so it has by then worked
-        off everything that any program asked of it before the question."""
         return self.property(self._own, "_NET_FRAME_EXTENTS") is not None
+
+    def ask_state(self):
+        """The other question: a managed window of ours, which stays an icon, changes one of its states."""
+        if self._own is None:
+            self._own = self._create_window()
+            self._set_numbers(self._own, "WM_HINTS", [2, 0, 3, 0, 0, 0, 0, 0, 0])  # starts as an icon
+            _X11.XMapWindow(self._handle, Window(self._own))
+        state = self.atom("_NET_WM_STATE_SKIP_PAGER")
+        self._state_wanted = state not in self.numbers(self._own, "_NET_WM_STATE")
+        self.message(self._own, "_NET_WM_STATE", int(self._state_wanted), state, 0, 2)
+
+    def state_answered(self):
+        state = self.atom("_NET_WM_STATE_SKIP_PAGER")
+        return (state in self.numbers(self._own, "_NET_WM_STATE")) == self._state_wanted
+
+    def is_own(self, window):
+        return window == self._own
+
+    def _create_window(self):
+        return _X11.XCreateSimpleWindow(self._handle, Window(self.root), 0, 0, 8, 8, 0,
+                                        ctypes.c_ulong(0), ctypes.c_ulong(0))
+
+    def _set_numbers(self, window, name, values):
+        data = (ctypes.c_long * len(values))(*values)
+        _X11.XChangeProperty(self._handle, Window(window), Atom(self.atom(name)), Atom(self.atom(name)), 32, 0,
+                             ctypes.byref(data), len(values))
 
     # Mouse and picture
 
@@ -249,4 +295,5 @@ def _decoded(address, form, count):
     if form == 8:
         return ctypes.string_at(address, count)
     item = ctypes.c_ushort if form == 16 else ctypes.c_ulong  # format 32 is a C long in the library
-    return list((item * count).from_address(address))
+    mask = (1 << form) - 1  # the library extends the sign of 32 bits
+    return [value & mask for value in (item * count).from_address(address)]

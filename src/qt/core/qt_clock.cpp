@@ -1,16 +1,15 @@
 #include "qt/core/qt_clock.h"
 
 #include "core/handlers.h"
+#include "posix/clock_posix.h"
+#include "posix/descriptor.h"
 
 #include <QObject>
 #include <QSocketNotifier>
 #include <QTimerEvent>
 
-#include <chrono>
-#include <ctime>
 #include <map>
 #include <sys/timerfd.h>
-#include <unistd.h>
 
 namespace quill {
 namespace {
@@ -18,11 +17,13 @@ namespace {
 constexpr int coarseFrom = 1000;                // milliseconds
 constexpr long frameNanoseconds = 1'000'000'000 / 50;
 
-int MakeBeat() {
-    const int beat = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
-    const itimerspec every{{0, frameNanoseconds}, {0, frameNanoseconds}};
+Descriptor MakeBeat() {
+    return Descriptor(timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC));
+}
+
+void SetBeat(int beat, long period) {
+    const itimerspec every{{0, period}, {0, period}};
     timerfd_settime(beat, 0, &every, nullptr);
-    return beat;
 }
 
 } // namespace
@@ -61,42 +62,39 @@ private:
 
 class QtClock::Frames {
 public:
-    explicit Frames(const Attachment& attached) : beat_(MakeBeat()), notifier_(beat_, QSocketNotifier::Read) {
+    explicit Frames(const Attachment& attached) : beat_(MakeBeat()), notifier_(beat_.Get(), QSocketNotifier::Read) {
         QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this, &attached] {
             std::uint64_t beats = 0;
-            if (read(beat_, &beats, sizeof beats) < 0) return;
-            if (notifier_.isEnabled() && attached.Alive()) Frame_Tick(*attached.Main);
+            const bool due = read(beat_.Get(), &beats, sizeof beats) > 0;
+            if (due && attached.Alive()) Frame_Tick(*attached.Main);
         });
     }
-    ~Frames() { close(beat_); }
-    Frames(const Frames&) = delete;
-    Frames& operator=(const Frames&) = delete;
 
-    void Run(bool wanted) { notifier_.setEnabled(wanted); }
+    // A beat of period 0 stands still and costs nothing.
+    void Run(bool wanted) {
+        if (wanted != running_) SetBeat(beat_.Get(), wanted ? frameNanoseconds : 0);
+        running_ = wanted;
+    }
 
 private:
-    int beat_;
+    Descriptor beat_;
     QSocketNotifier notifier_;
+    bool running_ = false;
 };
 
 QtClock::QtClock(const Attachment& attached) : attached_(attached) {}
 QtClock::~QtClock() = default;
 
 DateTime QtClock::Now() const {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour,
-            local.tm_min,         local.tm_sec,     local.tm_wday};
+    return LocalNow();
 }
 
 std::int64_t QtClock::GetTickCount() const {
-    return QueryPerformanceCounter() / 1'000'000;
+    return MonotonicMilliseconds();
 }
 
 std::int64_t QtClock::QueryPerformanceCounter() const {
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
+    return MonotonicNanoseconds();
 }
 
 void QtClock::Start(TimerId timer, int milliseconds) {
@@ -112,14 +110,9 @@ bool QtClock::IsRunning(TimerId timer) const {
     return timers_ && timers_->IsRunning(timer);
 }
 
-// The beat is made new each time it is wanted, so that the first frame is a whole period away and an idle
-// program has no timer in the system at all.
 void QtClock::WantFrames(bool wanted) {
     if (wanted && !frames_) frames_ = std::make_unique<Frames>(attached_);
-    if (!wanted && frames_) {
-        frames_->Run(false);
-        frames_.reset();
-    }
+    if (frames_) frames_->Run(wanted);
 }
 
 } // namespace quill

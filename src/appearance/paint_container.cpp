@@ -1,0 +1,204 @@
+#include "appearance/colors.h"
+#include "appearance/paint_parts.h"
+#include "appearance/palette.h"
+#include "containers/measures.h"
+#include "containers/scroll.h"
+#include "core/objects.h"
+#include "notes/notes.h"
+#include "shortcuts/icons.h"
+
+#include <algorithm>
+
+namespace quill {
+
+namespace {
+
+constexpr float HairLine = TwipsPerPixel;
+constexpr float TitleSetOff = 0.35F; // how much of the border's colour the title row takes
+constexpr float NotePadding = 75;
+constexpr float FootPoints = 8;
+constexpr float TilePadding = 60;
+
+Rect Body(const ContainerView& view) {
+    return {0, 0, view.Container.Place.Width, view.Container.Place.Height};
+}
+
+Rect FramePlace(const ContainerView& view) {
+    return view.ContainerFrame.Place;
+}
+
+// A container whose tile has its icon at 20 twips, which is every step but the normal one, has its ramp
+// upside down.
+RampKind RampOf(const frmMain& Main, int index) {
+    const bool normal = Main.Con(index).ShrinkSize().Width == measures::NormalTileWidth;
+    return normal ? RampKind::ContainerFrame : RampKind::ContainerFrameReversed;
+}
+
+Ground FrameGround(const frmMain& Main, int index) {
+    const ContainerView& view = Main.ConView(index);
+    Ground ground;
+    ground.In = InContainer(index);
+    ground.Place = FramePlace(view);
+    ground.Origin = {ground.Place.Left, ground.Place.Top - view.ScrollTop};
+    ground.BackColor = view.FrameBackColor;
+    ground.Kind = RampOf(Main, index);
+    ground.HasRamp = view.Gradient;
+    return ground;
+}
+
+// The rim in the border's colour, the rest clipped to what it leaves free; selected ones have a wider rim.
+void BeginBody(const ContainerView& view, Canvas& canvas) {
+    const Rect body = Body(view);
+    const float radius = std::min({CornerRadius, body.Width / 2, body.Height / 2});
+    const float rim = view.LabelSelected ? 2 * HairLine : HairLine;
+    canvas.RoundRect(body, radius, view.LabelSelected ? view.MarkForeColor : view.ContainerBackColor, {});
+    canvas.PushClip(Inset(body, rim), radius - rim);
+    canvas.FillRect(body, view.FrameBackColor);
+}
+
+void PaintTitleGround(const ContainerView& view, Canvas& canvas) {
+    if (!view.ContainerLabel.Visible) return; // the title row is hidden
+    const float height = std::min(measures::ContainerTitle, view.Container.Place.Height);
+    const Rect row{0, 0, view.Container.Place.Width, height};
+    canvas.FillRect(row, view.ContainerBackColor, TitleSetOff);
+    canvas.FillRect({0, height - HairLine, row.Width, HairLine}, view.ContainerBackColor);
+}
+
+void PaintMark(const Element& element, const char* symbol, Color ink, float opacity, Canvas& canvas) {
+    if (element.Visible) canvas.Symbol(symbol, element.Place, ink, opacity);
+}
+
+void PaintLabel(const frmMain& Main, const ContainerView& view, Canvas& canvas) {
+    if (!view.ContainerLabel.Visible) return;
+    TextStyle style;
+    style.Elide = style.VerticalCenter = true;
+    if (ContrastRatio(view.ContainerLabel.ForeColor, view.FrameBackColor) < ReadableContrast)
+        AddHalo(style, view.ContainerLabel.ForeColor, view.FrameBackColor);
+    PaintEruLabel(canvas, view.ContainerLabel, Main.Settings.FontName, style);
+}
+
+void PaintPin(const ContainerView& view, Canvas& canvas) {
+    if (!view.lblPinNote.Visible) return;
+    if (view.PinPressed)
+        canvas.RoundRect(Inset(view.lblPinNote.Place, -HairLine), 3 * HairLine, view.MarkForeColor, {},
+                         0.25F);
+    canvas.Symbol("pin-note", view.lblPinNote.Place, view.MarkForeColor, view.PinPressed ? 1.0F : 0.65F);
+}
+
+void PaintTitle(const frmMain& Main, const ContainerView& view, Canvas& canvas) {
+    PaintLabel(Main, view, canvas);
+    const Color ink = view.MarkForeColor;
+    PaintMark(view.shapeShrink, "shrink", ink, 0.65F, canvas);
+    PaintMark(view.shapeTags, "tag", ink, 0.85F, canvas);
+    PaintMark(view.shapeNoteIndicator, "note-mark", ink, 0.85F, canvas);
+    PaintPin(view, canvas);
+    PaintMark(view.lblFoldUnfold, view.FoldMark == "+" ? "unfold" : "fold", ink, 0.85F, canvas);
+}
+
+void PaintNote(const frmMain& Main, const ContainerView& view, Canvas& canvas) {
+    const NoteView& note = view.ContainerNote;
+    if (!note.Visible) return;
+    const Rect place = Shifted(note.Place, {view.ContainerFrame.Place.Left, view.ContainerFrame.Place.Top});
+    if (!canvas.Exposed().Intersects(place)) return;
+    canvas.RoundRect(place, 4 * HairLine, note.BackColor, {});
+    Rect text = Inset(place, NotePadding);
+    canvas.PushClip(text);
+    text.Top -= note.ScrollTop;
+    text.Height += note.ScrollTop;
+    TextStyle style;
+    style.Font = {Main.Settings.FontName, note.FontSize};
+    style.Ink = note.ForeColor;
+    style.WordBreak = style.Elide = true;
+    // No line is lower than its letters, so this many reach the lower edge.
+    const int lines = static_cast<int>(text.Height / (std::max(1.0F, note.FontSize) * 20)) + 2;
+    canvas.Text(text, FirstLines(note.Text, lines), style);
+    canvas.PopClip();
+}
+
+// The list of a feed has no rows before its reader is there: its ground stands for it.
+void PaintFeed(const frmMain& Main, int index, const ContainerView& view, Canvas& canvas) {
+    const int list = Main.Con(index).RSSListIndex;
+    if (list < 0 || static_cast<std::size_t>(list) >= Main.FeedViews.size() || !Main.Feed(index).Visible)
+        return;
+    const FeedView& feed = Main.Feed(index);
+    canvas.RoundRect(Shifted(feed.Place, {view.ContainerFrame.Place.Left, view.ContainerFrame.Place.Top}),
+                     4 * HairLine, feed.FeedBackColor, {});
+}
+
+void PaintScrollBar(const frmMain& Main, int index, const ContainerView& view, Canvas& canvas) {
+    if (!view.VScroll.Visible) return;
+    const Point frame{view.ContainerFrame.Place.Left, view.ContainerFrame.Place.Top};
+    const float radius = view.VScroll.Place.Width / 2;
+    canvas.RoundRect(Shifted(view.VScroll.Place, frame), radius, view.MarkForeColor, {}, 0.12F);
+    canvas.RoundRect(Shifted(ScrollThumb(Main, index), frame), radius, view.MarkForeColor, {}, 0.5F);
+}
+
+// The word at the foot and the strokes in the corner.
+void PaintFoot(const frmMain& Main, int index, const ContainerView& view, Canvas& canvas) {
+    const Rect body = Body(view);
+    const Rect foot{measures::NoteLeft, body.Bottom() - measures::FootHeight,
+                    body.Width - 2 * measures::NoteLeft, measures::FootHeight};
+    const std::string word = FootText(Main, index);
+    if (!word.empty()) {
+        TextStyle style;
+        style.Font = {Main.Settings.FontName, FootPoints};
+        style.Ink = view.MarkForeColor;
+        style.VerticalCenter = true;
+        canvas.Text(foot, word, style);
+    }
+    const float edge = measures::ResizeMarkFar - measures::ResizeMarkNear + 4 * HairLine;
+    canvas.Symbol("resize-grip",
+                  {body.Width - measures::ResizeMarkNear / 2 - edge,
+                   body.Height - measures::ResizeMarkNear / 2 - edge, edge, edge},
+                  view.MarkForeColor, 0.65F);
+}
+
+void PaintFrame(frmMain& Main, int index, Canvas& canvas) {
+    const ContainerView& view = Main.ConView(index);
+    const Ground ground = FrameGround(Main, index);
+    if (!view.ContainerFrame.Visible || !canvas.Exposed().Intersects(ground.Place)) return;
+    if (ground.HasRamp) DrawGradient(canvas, ground.Place, ground.BackColor, ground.Kind);
+    canvas.PushClip(ground.Place);
+    if (!view.PinPressed) PaintShortcuts(Main, ground, canvas); // a note covers them
+    PaintFeed(Main, index, view, canvas);
+    PaintNote(Main, view, canvas);
+    PaintFoot(Main, index, view, canvas);
+    PaintScrollBar(Main, index, view, canvas);
+    canvas.PopClip();
+}
+
+// Icons are drawn for a few sizes and blur at any other.
+float IconEdgeFor(float room) {
+    for (const float pixels : {64.0F, 48.0F, 32.0F, 24.0F, 16.0F})
+        if (pixels * TwipsPerPixel <= room) return pixels * TwipsPerPixel;
+    return std::max(0.0F, room);
+}
+
+// The whole tile shows the icon, as large as it has room.
+void PaintTile(const ContainerView& view, Canvas& canvas) {
+    const Rect body = Body(view);
+    const float room = std::min(body.Width, body.Height) - 2 * TilePadding;
+    const Rect place =
+        CenteredIn(body, IconEdgeFor(view.IconSmall ? measures::SmallIconPixels * TwipsPerPixel : room));
+    if (!canvas.Icon({view.IconFile, {}, IsImageName(view.IconFile)}, place))
+        canvas.Symbol("generic-folder", place, view.MarkForeColor, 0.8F);
+    PaintMark(view.shapeTags, "tag", view.MarkForeColor, 0.85F, canvas);
+}
+
+} // namespace
+
+void PaintContainer(frmMain& Main, int Index, Canvas& canvas) {
+    if (!IsLive(Main.Containers, Index)) return;
+    const ContainerView& view = Main.ConView(Index);
+    BeginBody(view, canvas);
+    if (IsShrunk(Main, Index)) {
+        PaintTile(view, canvas);
+    } else {
+        if (!IsFolded(Main, Index)) PaintFrame(Main, Index, canvas);
+        PaintTitleGround(view, canvas);
+        PaintTitle(Main, view, canvas);
+    }
+    canvas.PopClip();
+}
+
+} // namespace quill

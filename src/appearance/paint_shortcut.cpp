@@ -1,0 +1,84 @@
+#include "appearance/colors.h"
+#include "appearance/paint_parts.h"
+#include "appearance/palette.h"
+#include "containers/layout.h"
+#include "shortcuts/create.h"
+#include "shortcuts/icons.h"
+
+#include <algorithm>
+
+namespace quill {
+
+namespace {
+
+constexpr float OverlayPart = 0.5F;               // of the icon's edge
+constexpr float CaptionReach = 6 * TwipsPerPixel; // of a caption beyond its label
+
+bool Stands(const frmMain& Main, const ShortcutEntry& row, const Parent& in) {
+    const ShortcutView& view = Main.LinkView(row.Index);
+    return view.Visible && view.In == in;
+}
+
+// Captions reach a little beyond the label's own place, the more with a halo. How wide one is that was never
+// measured nobody knows; its line is enough to tell that it is seen.
+bool MayBeSeen(const frmMain& Main, int index, const Ground& ground, const Rect& exposed) {
+    Rect place = Inset(Shifted(LabelPlace(Main, index), ground.Origin), -CaptionReach);
+    const Rect icon = Shifted(IconPlace(Main, index), ground.Origin);
+    if (Main.LinkView(index).LabelMeasured) return exposed.Intersects(place) || exposed.Intersects(icon);
+    place.Left = exposed.Left;
+    place.Width = exposed.Width;
+    return exposed.Intersects(place);
+}
+
+void PaintIcon(frmMain& Main, int index, const Rect& place, Color ink, Canvas& canvas) {
+    const clsShortcut& record = Main.Link(index);
+    if (!canvas.Icon(GetIconSource(Main, index, true), place))
+        canvas.Symbol(GenericSymbol(record), place, ink, 0.8F);
+    Main.LinkView(index).IconDrawn = true;
+    if (!record.Command || !Main.Settings.CommandOverlay) return;
+    const float edge = place.Width * OverlayPart;
+    canvas.Symbol("command-overlay", {place.Right() - edge, place.Bottom() - edge, edge, edge}, ink);
+}
+
+Color GroundAt(const Ground& ground, float y) {
+    return ground.HasRamp ? RampColorAt(ground.Place, ground.BackColor, ground.Kind, y) : ground.BackColor;
+}
+
+// A caption that would run out of the frame ends in an ellipsis instead.
+bool CutToGround(EruLabel& label, const Ground& ground) {
+    const float room = ground.Place.Right() - CaptionReach - label.Place.Left;
+    if (label.Place.Width + CaptionReach <= room) return false;
+    label.Place.Width = std::max(0.0F, room);
+    return true;
+}
+
+void PaintCaption(frmMain& Main, EruLabel label, const Ground& ground, Canvas& canvas) {
+    TextStyle style;
+    style.Elide = CutToGround(label, ground);
+    style.VerticalCenter = true;
+    const Color behind = GroundAt(ground, label.Place.Top + label.Place.Height / 2);
+    const bool readable = !ground.HasPicture && ContrastRatio(label.ForeColor, behind) >= ReadableContrast;
+    if (!readable && label.BackStyle != 1) AddHalo(style, label.ForeColor, ground.BackColor);
+    PaintEruLabel(canvas, label, Main.Settings.FontName, style);
+}
+
+void PaintShortcut(frmMain& Main, int index, const Ground& ground, Canvas& canvas) {
+    TakeShortcutStyle(Main, index);
+    if (!Main.LinkView(index).LabelMeasured) SetNewLinkHeight(Main, index);
+    const Rect icon = Shifted(Main.LinkView(index).picShortcut, ground.Origin);
+    EruLabel label = Main.LinkView(index).lblShortcut;
+    label.Place = Shifted(label.Place, ground.Origin);
+    if (canvas.Exposed().Intersects(icon)) PaintIcon(Main, index, icon, label.ForeColor, canvas);
+    if (canvas.Exposed().Intersects(Inset(label.Place, -CaptionReach)))
+        PaintCaption(Main, label, ground, canvas);
+}
+
+} // namespace
+
+void PaintShortcuts(frmMain& Main, const Ground& ground, Canvas& canvas) {
+    for (const auto& row : Live(Main.Shortcuts))
+        if (Stands(Main, row, ground.In) && MayBeSeen(Main, row.Index, ground, canvas.Exposed()))
+            PaintShortcut(Main, row.Index, ground, canvas);
+}
+
+} // namespace quill

@@ -1,0 +1,86 @@
+#include "containers/gestures.h"
+
+#include "containers/fold.h"
+#include "containers/shrink.h"
+#include "core/handlers.h"
+#include "core/objects.h"
+
+#include <utility>
+
+namespace quill {
+namespace {
+
+void TakeKeys(frmMain& Main, int Index) {
+    Main.Group.CurrentContainer = Index;
+    Main.Group.ContainerHasFocus = true;
+}
+
+bool IsPlain(const MouseEvent& event) {
+    return !event.Shift && !event.Ctrl && !event.Alt && event.Button != MouseButton::Right;
+}
+
+// Only one container at a time is open for a moment.
+void OpenTile(frmMain& Main, int Index) {
+    ShrinkBackContainer(Main, true);
+    ExpandShrinkContainer(Main, Index, true);
+}
+
+} // namespace
+
+void Container_MouseDown(frmMain& Main, int Index, const MouseEvent& event) {
+    if (!IsLive(Main.Containers, Index)) return;
+    const auto& place = Main.ConView(Index).Container.Place;
+    Main.Group.CurrentContainer = Index;
+    Main.Group.PressedTile = -1;
+    Main.Group.NewContainerPos = {place.Left + event.At.X, place.Top + event.At.Y};
+    AddToZorderCollection(Main, {KindContainer, Index}, false);
+}
+
+void ContainerLabel_MouseDown(frmMain& Main, int Index, const MouseEvent& event) {
+    if (!IsLive(Main.Containers, Index)) return;
+    Container_MouseDown(Main, Index, event);
+    TakeKeys(Main, Index);
+}
+
+void ContainerIcon_MouseDown(frmMain& Main, int Index, const MouseEvent& event) {
+    if (!IsLive(Main.Containers, Index)) return;
+    ContainerLabel_MouseDown(Main, Index, event);
+    Main.Group.PressedTile = Index;
+    Main.Group.PressedAt = event.Screen;
+}
+
+void ContainerIcon_MouseUp(frmMain& Main, int Index, const MouseEvent& event) {
+    const bool click =
+        Main.Group.PressedTile == Index && Main.Group.PressedAt == event.Screen && IsPlain(event);
+    if (!click || !IsLive(Main.Containers, Index) || !IsShrunk(Main, Index)) return;
+    if (!Main.Settings.DblClickToStartAll) OpenTile(Main, Index);
+}
+
+void ContainerIcon_DblClick(frmMain& Main, int Index) {
+    if (IsLive(Main.Containers, Index) && IsShrunk(Main, Index)) OpenTile(Main, Index);
+}
+
+bool EndsOpeningClick(frmMain& Main) {
+    const int tile = std::exchange(Main.Group.PressedTile, -1);
+    return IsLive(Main.Containers, tile) && !IsShrunk(Main, tile);
+}
+
+void ContainerFrame_DblClick(frmMain& Main, int Index) {
+    if (!IsLive(Main.Containers, Index)) return;
+    if (!IsShrunk(Main, Index) && !IsFolded(Main, Index)) ExpandShrinkContainer(Main, Index, true);
+}
+
+void shapeShrink_Click(frmMain& Main, int Index) {
+    ExpandShrinkContainer(Main, Index, true);
+}
+
+void picBack_MouseDown(frmMain& Main, const MouseEvent& event) {
+    Main.Group.NewContainerPos = event.At;
+    Main.Group.PressedTile = -1;
+    Main.Group.ContainerHasFocus = false;
+    Main.Group.HoldExpanded = false;
+    ShrinkBackContainer(Main, true);
+    AutoFoldContainer(Main, Main.Group.AutoFoldContainerIndex);
+}
+
+} // namespace quill

@@ -1,0 +1,57 @@
+// The workspace's own parts inside its window.
+#include "containers/layout.h"
+#include "containers/measures.h"
+#include "containers/scroll.h"
+
+#include <algorithm>
+
+namespace quill {
+namespace {
+
+float AtLeastZero(float size) {
+    return std::max(0.0F, size);
+}
+
+// A rim stays free around picBack while the window may be moved.
+Rect BackPlace(const Rect& window, bool movable) {
+    using namespace measures;
+    if (!movable) return {0, 0, window.Width, window.Height};
+    return {WindowRimLeft, WindowRimTop, AtLeastZero(window.Width - WindowRimWidth),
+            AtLeastZero(window.Height - WindowRimHeight)};
+}
+
+Rect ButtonPlace(float left) {
+    using namespace measures;
+    return {AtLeastZero(left), (TitleHeight - ButtonEdge) / 2, ButtonEdge, ButtonEdge};
+}
+
+void LayTitle(WorkspaceView& view, bool locked) {
+    using namespace measures;
+    const float width = view.picBack.Place.Width;
+    view.picMoveMe.Place = {0, 0, width, TitleHeight};
+    view.lblCaption.Place = {CaptionLeft, 0, AtLeastZero(width - CaptionNarrower), TitleHeight};
+    const float dock = width - DockFromRight;
+    view.PicDock.Place = ButtonPlace(dock);
+    view.PicDock.Visible = false; // docking by hand is not built
+    view.PicLockToolbar.Place = view.PicUnLockToolbar.Place = ButtonPlace(dock - ButtonStep);
+    view.PicLockToolbar.Visible = locked;
+    view.PicUnLockToolbar.Visible = !locked;
+    view.PicMenu.Place = ButtonPlace(dock - 2 * ButtonStep);
+}
+
+} // namespace
+
+void ResizeForm(frmMain& Main) {
+    auto& view = Main.View;
+    view.picBack.Place = BackPlace(view.Window, !Main.Settings.PreventWindowMovement);
+    LayTitle(view, Main.Dock.Locked);
+    if (Main.IsLoading) LayAllScrollBars(Main); // the readers leave them to the end of the load
+    Main.Marks.Workspace();
+}
+
+void LockUnlockWindowMovement(frmMain& Main, bool Locked) {
+    Main.Settings.PreventWindowMovement = Locked;
+    if (!Main.IsLoading) ResizeForm(Main);
+}
+
+} // namespace quill

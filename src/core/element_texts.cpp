@@ -1,0 +1,128 @@
+// What a person is told about an element: its name, what a press does, its tip and its states.
+#include "core/element_walk.h"
+#include "core/tr.h"
+
+namespace quill {
+namespace {
+
+struct Words {
+    ElementKind Kind;
+    quill::Role Role;
+    std::string_view Name; // English, through Tr; empty: the container's, shortcut's or picture's own
+    std::string_view Action;
+    std::string_view Tip;
+};
+
+constexpr Words table[] = {
+    {ElementKind::picBack, Role::Pane, "Workspace", "", ""},
+    {ElementKind::picMoveMe, Role::Title, "Title", "", ""},
+    {ElementKind::lblCaption, Role::Title, "", "", ""},
+    {ElementKind::PicMenu, Role::Button, "Menu", "Open", "Menu"},
+    {ElementKind::PicDock, Role::Button, "Dock", "Dock", "Dock"},
+    {ElementKind::PicLockToolbar, Role::Button, "Unlock", "Unlock", "Unlock"},
+    {ElementKind::PicUnLockToolbar, Role::Button, "Lock", "Lock", "Lock"},
+    {ElementKind::Container, Role::Pane, "", "", ""},
+    {ElementKind::ContainerFrame, Role::Pane, "", "", ""},
+    {ElementKind::ContainerLabel, Role::Title, "", "Fold", ""},
+    {ElementKind::ContainerIcon, Role::Button, "", "Expand", "Shrink/Expand"},
+    {ElementKind::lblFoldUnfold, Role::Button, "Fold", "Fold", ""},
+    {ElementKind::lblPinNote, Role::Button, "Note", "", ""},
+    {ElementKind::shapeShrink, Role::Button, "Shrink", "Shrink", "Shrink/Expand"},
+    {ElementKind::shapeTags, Role::Mark, "Shows a tag", "", ""},
+    {ElementKind::shapeNoteIndicator, Role::Mark, "Holds a note", "", ""},
+    {ElementKind::ResizeSymbol, Role::Grip, "Resize", "Resize",
+     "Right/Middle Click: Auto Resize | Left Click: Drag to manually set the size"},
+    {ElementKind::ContainerNote, Role::Note, "", "Edit", ""},
+    {ElementKind::VScroll, Role::Scroll, "Scroll bar", "", ""},
+    {ElementKind::lblShortcut, Role::ListItem, "", "Start", ""},
+    {ElementKind::picShortcut, Role::Image, "", "Start", ""},
+    {ElementKind::PicContainer, Role::Pane, "", "", ""},
+    {ElementKind::PicImage, Role::Image, "", "", ""},
+};
+
+const Words* WordsOf(ElementKind kind) {
+    const auto* found = std::ranges::find(table, kind, &Words::Kind);
+    return found == std::end(table) ? nullptr : found;
+}
+
+bool IsOfContainer(ElementKind kind) {
+    return kind >= ElementKind::Container && kind <= ElementKind::VScroll;
+}
+
+std::string LastElement(const std::string& path) {
+    return path.substr(path.find_last_of("/\\") + 1);
+}
+
+void DescribeLink(const frmMain& Main, ElementInfo& info) {
+    const auto& link = Main.Link(info.Id.Index);
+    info.Name = link.FullCaption;
+    info.Tip = Main.Settings.ShortcutTooltips ? link.Tip : std::string();
+    info.Selected = link.Selected;
+}
+
+void DescribePicture(const frmMain& Main, ElementInfo& info) {
+    const auto& picture = Main.Pic(info.Id.Index);
+    info.Name = LastElement(picture.Path);
+    info.Tip = picture.Comment;
+}
+
+void DescribeFoldMark(const frmMain& Main, const ContainerView& view, ElementInfo& info) {
+    info.Expanded = view.FoldMark == "-";
+    info.Name = info.Action = Tr(Main, info.Expanded ? "Fold" : "Unfold");
+    info.Tip = view.FoldTip;
+}
+
+void DescribePin(const frmMain& Main, const ContainerView& view, ElementInfo& info) {
+    info.Pressed = view.PinPressed;
+    info.Name = info.Action = info.Tip = Tr(Main, view.PinPressed ? "Hide Note" : "Show Note");
+}
+
+void DescribeContainerPart(const frmMain& Main, ElementInfo& info) {
+    const auto& view = Main.ConView(info.Id.Index);
+    if (info.Name.empty()) info.Name = view.ContainerLabel.Caption;
+    info.Selected = view.LabelSelected;
+    info.Expanded = view.FoldMark == "-" && !IsShrunk(Main, info.Id.Index);
+    switch (info.Id.Kind) {
+    case ElementKind::ContainerLabel:
+        info.Action = Tr(Main, info.Expanded ? "Fold" : "Unfold");
+        break;
+    case ElementKind::lblFoldUnfold:
+        DescribeFoldMark(Main, view, info);
+        break;
+    case ElementKind::lblPinNote:
+        DescribePin(Main, view, info);
+        break;
+    default:
+        break;
+    }
+}
+
+std::string Translated(const frmMain& Main, std::string_view english) {
+    return english.empty() ? std::string() : Tr(Main, english);
+}
+
+} // namespace
+
+ElementInfo DescribeElement(const frmMain& Main, const Spot& spot) {
+    ElementInfo info;
+    info.Id = spot.Id;
+    info.Place = spot.Place;
+    info.Whole = spot.Whole;
+    const auto* words = WordsOf(spot.Id.Kind);
+    if (!words) return info;
+    info.Role = words->Role;
+    info.Name = Translated(Main, words->Name);
+    info.Action = Translated(Main, words->Action);
+    info.Tip = Translated(Main, words->Tip);
+    if (spot.Id.Kind == ElementKind::lblCaption)
+        info.Name = Main.View.Caption;
+    else if (IsOfContainer(spot.Id.Kind))
+        DescribeContainerPart(Main, info);
+    else if (spot.Id.Kind == ElementKind::lblShortcut || spot.Id.Kind == ElementKind::picShortcut)
+        DescribeLink(Main, info);
+    else if (spot.Id.Kind == ElementKind::PicContainer || spot.Id.Kind == ElementKind::PicImage)
+        DescribePicture(Main, info);
+    return info;
+}
+
+} // namespace quill

@@ -1,0 +1,192 @@
+#include "qt/appearance/qt_canvas.h"
+
+#include "qt/appearance/text_block.h"
+#include "qt/core/convert.h"
+
+#include <QPainterPath>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quill {
+namespace {
+
+constexpr float haloOpacity = 0.28F; // of each of the eight copies around a text
+
+Qt::Alignment AlignOf(TextAlign align) {
+    if (align == TextAlign::Center) return Qt::AlignHCenter;
+    return align == TextAlign::Right ? Qt::AlignRight : Qt::AlignLeft;
+}
+
+BlockShape ShapeOf(const Rect& place, const TextStyle& style) {
+    BlockShape shape;
+    shape.Width = place.Width / TwipsPerPixel;
+    shape.Wrap = style.WordBreak;
+    shape.Elide = style.Elide;
+    shape.Align = AlignOf(style.Align);
+    if (style.WordBreak) shape.Height = place.Height / TwipsPerPixel;
+    return shape;
+}
+
+// A text that is not broken may be longer and higher than its place.
+Rect WithOverhang(const Rect& place, const TextStyle& style) {
+    if (style.WordBreak || style.Elide) return place;
+    const float more = 40 * style.Font.Points * TwipsPerPixel;
+    const float line = 2 * style.Font.Points * TwipsPerPixel;
+    return {place.Left - more, place.Top - line, place.Width + 2 * more, place.Height + 2 * line};
+}
+
+void DrawHalo(QPainter& painter, const TextBlock& block, QPointF corner, Color color, qreal step) {
+    painter.setPen(Ink(color, haloOpacity));
+    for (const int y : {-1, 0, 1})
+        for (const int x : {-1, 0, 1})
+            if (x != 0 || y != 0) block.Draw(painter, corner + QPointF(x * step, y * step));
+}
+
+} // namespace
+
+QtCanvas::QtCanvas(QPainter& painter, QWidget& surface, const QRegion& exposed, Looks& looks)
+    : painter_(painter), surface_(surface), exposed_(exposed), looks_(looks), toDevice_(painter.deviceTransform()),
+      fromDevice_(toDevice_.inverted()), scale_(toDevice_.m11()) {
+    painter_.setRenderHint(QPainter::SmoothPixmapTransform);
+}
+
+Rect QtCanvas::Exposed() const {
+    return TwipRect(exposed_.boundingRect());
+}
+
+void QtCanvas::FillRect(const Rect& place, Color color, float opacity) {
+    if (IsExposed(place)) painter_.fillRect(Snap(place), Ink(color, opacity));
+}
+
+void QtCanvas::RoundRect(const Rect& place, float radius, Color fill, Pen pen, float opacity) {
+    if (!IsExposed(place)) return;
+    const QRectF outer = Snap(place);
+    const qreal width = PenWidth(pen.Width);
+    const QRectF line = outer.adjusted(width / 2, width / 2, -width / 2, -width / 2);
+    const qreal roundest = std::min(outer.width(), outer.height()) / 2;
+    const qreal corner = std::max(0.0, std::min<qreal>(radius / TwipsPerPixel, roundest) - width / 2);
+    painter_.setRenderHint(QPainter::Antialiasing, corner > 0);
+    painter_.setPen(width > 0 ? QPen(Ink(pen.Ink, opacity), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin)
+                              : QPen(Qt::NoPen));
+    painter_.setBrush(Ink(fill, opacity));
+    painter_.drawRoundedRect(line, corner, corner);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+// Lines along an axis are boxes of whole pixels; only slanted ones are smoothed.
+void QtCanvas::Line(Point from, Point to, Pen pen) {
+    const QPointF start = Snap(from), end = Snap(to);
+    const qreal width = PenWidth(std::max(1, pen.Width));
+    if (start.x() == end.x() || start.y() == end.y()) {
+        const QRectF box = QRectF(start, end).normalized();
+        const QSizeF size(std::max(box.width(), width), std::max(box.height(), width));
+        painter_.fillRect(QRectF(box.topLeft(), size), Ink(pen.Ink));
+        return;
+    }
+    painter_.setRenderHint(QPainter::Antialiasing, true);
+    painter_.setPen(QPen(Ink(pen.Ink), width, Qt::SolidLine, Qt::RoundCap));
+    painter_.drawLine(start, end);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void QtCanvas::Text(const Rect& place, std::string_view text, const TextStyle& style) {
+    if (text.empty() || !IsExposed(WithOverhang(place, style))) return;
+    const TextBlock block(looks_.Fonts.Get(style.Font), quill::Text(text), ShapeOf(place, style));
+    Point corner{place.Left, place.Top};
+    if (style.VerticalCenter)
+        corner.Y += (place.Height - static_cast<float>(block.Height()) * TwipsPerPixel) / 2;
+    const QPointF at = Snap(corner);
+    if (style.Halo) DrawHalo(painter_, block, at, style.HaloColor, 1);
+    painter_.setPen(Ink(style.Ink));
+    block.Draw(painter_, at);
+}
+
+void QtCanvas::Symbol(std::string_view name, const Rect& place, Color ink, float opacity) {
+    if (!IsExposed(place)) return;
+    const QImage image = looks_.Symbols.Get(quill::Text(name), DeviceSide(place), Ink(ink));
+    painter_.setOpacity(opacity);
+    DrawCentered(image, place);
+    painter_.setOpacity(1);
+}
+
+bool QtCanvas::Icon(const IconSource& source, const Rect& place) {
+    const QImage image = looks_.Icons.Get(source, DeviceSide(place), SpotOf(place));
+    DrawCentered(image, place);
+    return !image.isNull();
+}
+
+bool QtCanvas::Picture(const std::string& path, const Rect& place) {
+    const QRectF box = Snap(place);
+    const QSize device = (box.size() * scale_).toSize();
+    const QImage image = looks_.Pictures.Get(quill::Text(path), device, SpotOf(place));
+    if (!image.isNull()) painter_.drawImage(box, image);
+    return !image.isNull();
+}
+
+bool QtCanvas::Button(const std::string& path, const Rect& place, Color fallbackInk,
+                      std::string_view fallbackSymbol) {
+    if (!path.empty()) {
+        const QImage image = looks_.Symbols.Button(quill::Text(path), DeviceSide(place));
+        DrawCentered(image, place);
+        if (!image.isNull()) return true;
+    }
+    if (!fallbackSymbol.empty()) Symbol(fallbackSymbol, place, fallbackInk, 1);
+    return false;
+}
+
+void QtCanvas::PushClip(const Rect& place, float radius) {
+    painter_.save();
+    const QRectF box = Snap(place);
+    if (radius <= 0) {
+        painter_.setClipRect(box, Qt::IntersectClip);
+        return;
+    }
+    QPainterPath path;
+    path.addRoundedRect(box, radius / TwipsPerPixel, radius / TwipsPerPixel);
+    painter_.setRenderHint(QPainter::Antialiasing, true);
+    painter_.setClipPath(path, Qt::IntersectClip);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void QtCanvas::PopClip() {
+    painter_.restore();
+}
+
+// One pixel more, since edges are rounded.
+bool QtCanvas::IsExposed(const Rect& place) const {
+    return exposed_.intersects(PixelRect(place).normalized().adjusted(-1, -1, 1, 1));
+}
+
+QPointF QtCanvas::Snap(Point place) const {
+    const QPointF device = toDevice_.map(QPointF(place.X / TwipsPerPixel, place.Y / TwipsPerPixel));
+    return fromDevice_.map(QPointF(std::round(device.x()), std::round(device.y())));
+}
+
+QRectF QtCanvas::Snap(const Rect& place) const {
+    return QRectF(Snap(Point{place.Left, place.Top}), Snap(Point{place.Right(), place.Bottom()}));
+}
+
+qreal QtCanvas::PenWidth(int pixels) const {
+    if (pixels <= 0) return 0;
+    return std::max(1.0, std::round(pixels * scale_)) / scale_;
+}
+
+int QtCanvas::DeviceSide(const Rect& place) const {
+    return static_cast<int>(std::lround(std::min(place.Width, place.Height) / TwipsPerPixel * scale_));
+}
+
+void QtCanvas::DrawCentered(const QImage& image, const Rect& place) {
+    if (image.isNull()) return;
+    const QSizeF size = QSizeF(image.size()) / scale_;
+    const float left = place.Left + (place.Width - static_cast<float>(size.width()) * TwipsPerPixel) / 2;
+    const float top = place.Top + (place.Height - static_cast<float>(size.height()) * TwipsPerPixel) / 2;
+    painter_.drawImage(QRectF(Snap(Point{left, top}), size), image);
+}
+
+Spot QtCanvas::SpotOf(const Rect& place) const {
+    return {&surface_, Snap(place).toAlignedRect()};
+}
+
+} // namespace quill

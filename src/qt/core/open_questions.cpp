@@ -1,0 +1,34 @@
+#include "qt/core/open_questions.h"
+
+#include "core/frmMain.h"
+#include "dock/docking.h"
+
+#include <QDialog>
+
+namespace quill {
+namespace {
+
+void Cancel(QWidget& question) {
+    if (auto* dialog = qobject_cast<QDialog*>(&question)) dialog->done(QDialog::Rejected);
+    else question.close();
+}
+
+} // namespace
+
+void OpenQuestions::CancelAll() {
+    const auto open = open_; // each is taken off by its own end
+    for (auto question = open.rbegin(); question != open.rend(); ++question)
+        if (*question) Cancel(**question);
+}
+
+OpenQuestions::Entry::Entry(OpenQuestions& questions, QWidget& widget) : questions_(questions) {
+    questions_.open_.emplace_back(&widget);
+    if (questions_.attached_.Main != nullptr) pause_ = std::make_unique<DialogPause>(*questions_.attached_.Main);
+}
+
+OpenQuestions::Entry::~Entry() {
+    questions_.open_.pop_back();
+    if (questions_.open_.empty() && questions_.AllClosed) questions_.AllClosed();
+}
+
+} // namespace quill

@@ -1,0 +1,65 @@
+// Stage: all that is on the screen, the widgets of windows and surfaces. It takes the marks of the logic once a
+// turn of the event loop and makes the screen what the tables say; nothing else writes to a widget.
+#pragma once
+
+#include "core/surfaces.h"
+#include "platform/windows.h"
+#include "qt/core/surface_widget.h"
+#include "qt/dock/main_widget.h"
+#include "qt/dock/splash_widget.h"
+#include "qt/notes/note_desk.h"
+
+#include <QObject>
+
+#include <map>
+#include <memory>
+#include <string>
+
+namespace quill {
+
+struct MarkSet;
+
+class Stage : public QObject {
+public:
+    // The icon of the windows is read from the folder, after the first picture.
+    Stage(const Attachment& attached, Looks& looks, std::string iconFolder);
+    ~Stage() override;
+
+    void Wake();  // arranges for a drain in the next turn
+    void Drain(); // now
+    MainWidget& Main();
+    QWidget& Splash();
+    // Null for a window that this backend does not have.
+    QWidget* Window(WindowId window);
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void Apply(const MarkSet& set);
+    void SyncAll();
+    void SyncContainer(int index);
+    SurfaceWidget* Sync(SurfaceId id); // made, placed, shown or hidden; null when there is nothing to show
+    SurfaceWidget* Find(SurfaceId id) const;
+    SurfaceWidget* Make(SurfaceId id);
+    QWidget* ParentOf(SurfaceId id);
+    void Clip(SurfaceWidget& picture);
+    void Restack();
+    void RepaintWorkspace();
+    void Update(SurfaceWidget* surface) const;
+    void FirstPictureStands();
+
+    const Attachment& attached_;
+    Looks& looks_;
+    std::string iconFolder_;
+    NoteDesk notes_;
+    std::unique_ptr<MainWidget> main_;
+    std::unique_ptr<SplashWidget> splash_;
+    std::map<SurfaceId, SurfaceWidget*> surfaces_; // owned by their parents
+    bool woken_ = false;
+    bool restack_ = false;
+    bool seen_ = false; // the workspace has been painted once
+};
+
+} // namespace quill

@@ -1,0 +1,110 @@
+#include "qt/dock/qt_windows.h"
+
+#include "core/handlers.h"
+#include "qt/core/convert.h"
+#include "qt/core/stage.h"
+#include "qt/dock/native_window.h"
+#include "qt/dock/work_area.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace quill {
+namespace {
+
+constexpr double solid = 255;
+
+Qt::WindowStates StatesOf(WindowState state) {
+    if (state == WindowState::Minimized) return Qt::WindowMinimized;
+    return state == WindowState::Maximized ? Qt::WindowMaximized : Qt::WindowNoState;
+}
+
+} // namespace
+
+void QtWindows::Place(WindowId window, const Rect& place) {
+    if (window == MainWindow) display_.Get().Stage.Main().PlaceWindow(PixelRect(place));
+    else if (QWidget* widget = Widget(window)) widget->setGeometry(PixelRect(place));
+}
+
+void QtWindows::Show(WindowId window, Activate activate) {
+    QWidget* widget = Widget(window);
+    if (widget == nullptr) return;
+    if (window == MainWindow) display_.Get().Stage.Drain();
+    widget->show();
+    if (activate == Activate::Yes) qt::TakeFocus(*widget);
+}
+
+void QtWindows::Hide(WindowId window) {
+    if (QWidget* widget = Widget(window)) widget->hide();
+}
+
+void QtWindows::SetState(WindowId window, WindowState state) {
+    if (QWidget* widget = Widget(window)) widget->setWindowState(StatesOf(state));
+}
+
+void QtWindows::SetOpacity(WindowId window, int alpha) {
+    if (QWidget* widget = Widget(window)) qt::SetOpacity(*widget, std::clamp(alpha, 0, 255) / solid);
+}
+
+void QtWindows::SetWindowOnTop(WindowId window, bool topMost) {
+    if (QWidget* widget = Widget(window)) qt::SetOnTop(*widget, topMost);
+}
+
+void QtWindows::SetTaskbarEntry(WindowId window, bool shown) {
+    if (QWidget* widget = Widget(window)) qt::SetTaskbarEntry(*widget, shown);
+}
+
+void QtWindows::SetForegroundWindow(WindowId window) {
+    if (QWidget* widget = Widget(window)) qt::TakeFocus(*widget);
+}
+
+bool QtWindows::IsForeground(WindowId window) const {
+    const QWidget* widget = Widget(window);
+    return widget != nullptr && qt::HasForeground(*widget);
+}
+
+void QtWindows::BeginMove(WindowId window) {
+    BeginDrag(window, 0);
+}
+
+void QtWindows::BeginResize(WindowId window, int edges) {
+    if (edges != 0) BeginDrag(window, edges);
+}
+
+void QtWindows::BeginDrag(WindowId window, int edges) {
+    if (window != MainWindow) return;
+    drag_.Begin(display_.Get().Stage.Main(), edges, [this](const QRect& place) {
+        if (!attached_.Alive()) return;
+        display_.Get().Stage.Main().PlaceWindow(place);
+        Form_Moved(*attached_.Main, TwipRect(place));
+        display_.Get().Stage.Drain();
+    });
+}
+
+std::vector<Monitor> QtWindows::Monitors() const {
+    std::vector<Monitor> monitors;
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const Monitor monitor{TwipRect(screen->geometry()), TwipRect(WorkAreaOfScreen(*screen))};
+        monitors.insert(screen == primary ? monitors.begin() : monitors.end(), monitor);
+    }
+    if (monitors.empty()) monitors.push_back({{0, 0, 1024 * TwipsPerPixel, 768 * TwipsPerPixel}, {}});
+    return monitors;
+}
+
+Point QtWindows::GetCursorPos() const {
+    return TwipPoint(QCursor::pos());
+}
+
+void QtWindows::SetCursorPos(Point place) {
+    QCursor::setPos(PixelPoint(place));
+}
+
+QWidget* QtWindows::Widget(WindowId window) const {
+    return display_.Get().Stage.Window(window);
+}
+
+} // namespace quill

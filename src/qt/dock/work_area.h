@@ -1,0 +1,13 @@
+// Work areas: what panels leave of each monitor, in device-independent pixels. With one monitor the toolkit knows
+// it; with several it does not, and the windows are asked for the room that they keep free.
+#pragma once
+
+#include <QRect>
+
+class QScreen;
+
+namespace quill {
+
+QRect WorkAreaOfScreen(const QScreen& screen);
+
+} // namespace quill

@@ -1,0 +1,54 @@
+// Clicks on shortcuts. A plain click starts on release, not on press, so that a drag never starts anything.
+#include "shortcuts/launch.h"
+
+#include "core/handlers.h"
+#include "core/menus.h"
+#include "platform/clock.h"
+
+namespace quill {
+
+namespace {
+
+constexpr std::int64_t StayTime = 250; // milliseconds: a release this soon is a click whatever the hand moved
+
+void MakeCurrent(frmMain& Main, int Index) {
+    Main.Links.CurrentShortcut = Index;
+    const Parent& in = Main.LinkView(Index).In;
+    if (in.Kind == ParentKind::ContainerFrame) Main.Group.CurrentContainer = in.Index;
+}
+
+void ReleaseLeft(frmMain& Main, int Index) {
+    const std::int64_t held = Main.P.Clock.GetTickCount() - Main.Links.PressTick;
+    if (held <= StayTime && Main.Links.SelectedShortcuts.size() == 1) Main.Links.DragIndex = Index;
+    if (Main.Settings.DblClick || Main.Links.DragIndex == -1) return;
+    Main.Links.ClickStarted = Index;
+    StartShortcut(Main, Index, false, "", false, false);
+}
+
+} // namespace
+
+void lblShortcut_MouseDown(frmMain& Main, int Index, const MouseEvent&) {
+    if (!IsLive(Main.Shortcuts, Index)) return;
+    MakeCurrent(Main, Index);
+    Main.Links.ClickStarted = -1;
+    Main.Links.PressTick = Main.P.Clock.GetTickCount();
+}
+
+void lblShortcut_MouseUp(frmMain& Main, int Index, const MouseEvent& event) {
+    if (!IsLive(Main.Shortcuts, Index) || Main.Links.CurrentShortcut != Index) return;
+    if (event.Button == MouseButton::Right)
+        PopupMenu(Main, MenuName::Shortcut, event.Screen);
+    else if (event.Button == MouseButton::Left && !event.Shift && !event.Ctrl)
+        ReleaseLeft(Main, Index);
+}
+
+void lblShortcut_DblClick(frmMain& Main, int Index) {
+    if (Main.Settings.DblClick) StartShortcut(Main, Index, false, "", false, false);
+}
+
+void picShortcut_DblClick(frmMain& Main, int Index) {
+    if (Main.Links.ClickStarted == Index) return; // by the first of the two clicks
+    StartShortcut(Main, Index, false, "", false, false);
+}
+
+} // namespace quill

@@ -1,0 +1,59 @@
+#include "containers/workspace_fixture.h"
+
+namespace quill {
+namespace {
+
+struct WindowLayout : test::WorkspaceFixture {};
+
+TEST_F(WindowLayout, ARimStaysToGrabWhileTheWindowMayBeMoved) {
+    EXPECT_EQ(fake::Words(Main.View.picBack.Place), "20,15 12000x9000");
+    LockUnlockWindowMovement(Main, true);
+    EXPECT_TRUE(Main.Settings.PreventWindowMovement);
+    EXPECT_EQ(fake::Words(Main.View.picBack.Place), "0,0 12035x9030");
+    LockUnlockWindowMovement(Main, false);
+    EXPECT_EQ(fake::Words(Main.View.picBack.Place), "20,15 12000x9000");
+}
+
+TEST_F(WindowLayout, WhileLoadingTheWindowIsLaidOutOnlyAtTheEnd) {
+    Main.IsLoading = true;
+    LockUnlockWindowMovement(Main, true);
+    EXPECT_TRUE(Main.Settings.PreventWindowMovement);
+    EXPECT_EQ(fake::Words(Main.View.picBack.Place), "20,15 12000x9000");
+}
+
+TEST_F(WindowLayout, TheTitleRowFollowsTheWidth) {
+    EXPECT_EQ(fake::Words(Main.View.picMoveMe.Place), "0,0 12000x330");
+    EXPECT_EQ(fake::Words(Main.View.lblCaption.Place), "120,0 10650x330");
+    EXPECT_EQ(fake::Words(Main.View.PicDock.Place), "11630,45 240x240");
+    EXPECT_EQ(fake::Words(Main.View.PicLockToolbar.Place), "11310,45 240x240");
+    EXPECT_EQ(fake::Words(Main.View.PicUnLockToolbar.Place), "11310,45 240x240");
+    EXPECT_EQ(fake::Words(Main.View.PicMenu.Place), "10990,45 240x240");
+}
+
+TEST_F(WindowLayout, OneOfTheTwoLocksIsSeen) {
+    for (const bool locked : {false, true}) {
+        Main.Dock.Locked = locked;
+        ResizeForm(Main);
+        EXPECT_EQ(Main.View.PicLockToolbar.Visible, locked);
+        EXPECT_EQ(Main.View.PicUnLockToolbar.Visible, !locked);
+    }
+}
+
+TEST_F(WindowLayout, ACollapsedWindowHasNoNegativeSizes) {
+    Main.View.Window = {0, 0, 10, 10};
+    ResizeForm(Main);
+    EXPECT_EQ(fake::Words(Main.View.picBack.Place), "20,15 0x0");
+    EXPECT_EQ(Main.View.lblCaption.Place.Width, 0);
+    EXPECT_EQ(Main.View.PicMenu.Place.Left, 0);
+}
+
+TEST_F(WindowLayout, TheWorkspaceIsNeverLargerThanItsWindow) {
+    for (const bool locked : {false, true}) {
+        LockUnlockWindowMovement(Main, locked);
+        EXPECT_LE(Main.View.picBack.Place.Right(), Main.View.Window.Width);
+        EXPECT_LE(Main.View.picBack.Place.Bottom(), Main.View.Window.Height);
+    }
+}
+
+} // namespace
+} // namespace quill

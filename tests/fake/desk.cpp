@@ -1,0 +1,293 @@
+#include "fake/desk.h"
+
+#include "core/start.h"
+#include "fake/words.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace quill::fake {
+
+namespace {
+
+constexpr int MostRoundsOfATurn = 100; // a handler that moves the window again and again is a defect
+constexpr int ProbesASide = 9;
+
+bool Hits(const frmMain& main, SurfaceId surface, ElementId id, Point at) {
+    return ElementAt(main, surface, at) == id;
+}
+
+// The middle, or else the first point of a grid at which the element is not covered by another.
+std::optional<Point> PressPoint(const frmMain& main, SurfaceId surface, const ElementInfo& element) {
+    const auto& place = element.Place;
+    const Point middle{place.Left + place.Width / 2, place.Top + place.Height / 2};
+    if (Hits(main, surface, element.Id, middle)) return middle;
+    for (int row = 1; row < ProbesASide; ++row) {
+        for (int column = 1; column < ProbesASide; ++column) {
+            const Point at{place.Left + place.Width * static_cast<float>(column) / ProbesASide,
+                           place.Top + place.Height * static_cast<float>(row) / ProbesASide};
+            if (Hits(main, surface, element.Id, at)) return at;
+        }
+    }
+    return {};
+}
+
+std::string NameOf(SurfaceId surface) {
+    static constexpr const char* Names[] = {"Workspace", "Container", "Picture"};
+    const std::string name = Names[static_cast<int>(surface.Kind)];
+    return surface.Index == -1 ? name : name + " " + std::to_string(surface.Index);
+}
+
+std::string Describe(const ElementInfo& element) {
+    std::string text{NameOf(element.Id.Kind)};
+    if (element.Id.Index != -1) text += "(" + std::to_string(element.Id.Index) + ")";
+    text += " " + Words(element.Place);
+    if (!element.Name.empty()) text += " \"" + element.Name + "\"";
+    if (element.Selected) text += " selected";
+    if (element.Pressed) text += " pressed";
+    return text;
+}
+
+} // namespace
+
+void Connect(Computer& computer, frmMain* main) {
+    if (main == nullptr) {
+        computer.Clock.OnTimer = nullptr;
+        computer.Clock.OnFrame = nullptr;
+        return;
+    }
+    computer.Clock.OnTimer = [main](TimerId timer) { Timer_Tick(*main, timer); };
+    computer.Clock.OnFrame = [main] { Frame_Tick(*main); };
+}
+
+Desk::Desk() {
+    Computer.Session.OnAttach = [this](frmMain* main) { Connect(Computer, main); };
+}
+
+// ---- the process
+
+void Desk::StartWorkspace(const std::vector<std::string>& arguments) {
+    Main = std::make_unique<frmMain>(Computer.MakePlatform());
+    Main->Start = ReadCommandLine(arguments);
+    SettleSettingsFolder(*Main);
+    Computer.Session.Attach(*Main);
+    LoadSettings(*Main);
+    if (Main->Store.Quit) return;
+    PostLoad(*Main);
+    Turn();
+}
+
+int Desk::RunProgram(const std::vector<std::string>& arguments, std::function<void(frmMain&)> scene) {
+    Computer.Session.OnRun = [this, scene] {
+        if (scene) scene(*Computer.Session.Attached);
+    };
+    const int status = quill::Main(Computer.MakePlatform(), arguments);
+    Computer.EndProcess();
+    return status;
+}
+
+void Desk::StopWorkspace() {
+    Connect(Computer, nullptr);
+    Computer.EndProcess();
+    Computer.Files.Revive();
+    Main.reset();
+}
+
+void Desk::ExitWorkspace() {
+    mnuExitApp_Click(*Main);
+    UnloadMain(*Main);
+    StopWorkspace();
+}
+
+void Desk::Turn() {
+    auto& windows = Computer.Windows;
+    for (int round = 0; round < MostRoundsOfATurn; ++round) {
+        Computer.Clock.Advance(0);
+        if (!windows.PendingMove && !windows.PendingState) break;
+        if (const auto move = std::exchange(windows.PendingMove, {})) Form_Moved(*Main, *move);
+        if (const auto state = std::exchange(windows.PendingState, {})) Form_StateChanged(*Main, *state);
+    }
+    LastMarks = MarkTurn(Main->Marks).Set;
+}
+
+// ---- looking
+
+std::optional<Found> Desk::Find(ElementKind kind, int index) const {
+    std::optional<Found> found;
+    for (const SurfaceId surface : Surfaces(*Main)) {
+        if (!SurfaceVisible(*Main, surface)) continue;
+        Elements(*Main, surface, [&](const ElementInfo& element) {
+            if (element.Id != ElementId{kind, index}) return true;
+            found = Found{surface, element, {}, false};
+            return false;
+        });
+        if (found) break;
+    }
+    if (!found) return found;
+    if (const auto at = PressPoint(*Main, found->Surface, found->Element)) {
+        const Rect place = OnScreen(found->Surface);
+        found->At = *at;
+        found->Reachable = TopAt({place.Left + at->X, place.Top + at->Y}) == found->Surface;
+    }
+    return found;
+}
+
+Found Desk::Must(ElementKind kind, int index) const {
+    const auto found = Find(kind, index);
+    if (found && found->Reachable) return *found;
+    throw std::runtime_error(std::string(found ? "covered: " : "not visible: ") + std::string(NameOf(kind)) +
+                             "(" + std::to_string(index) + ")\n" + Screen());
+}
+
+std::string Desk::Screen() const {
+    std::string text;
+    for (const SurfaceId surface : Surfaces(*Main)) {
+        if (!SurfaceVisible(*Main, surface)) continue;
+        text += NameOf(surface) + " " + Words(PlaceOfSurface(*Main, surface)) + "\n";
+        Elements(*Main, surface, [&](const ElementInfo& element) {
+            text += "  " + Describe(element) + "\n";
+            return true;
+        });
+    }
+    return text;
+}
+
+Rect Desk::OnScreen(SurfaceId surface) const {
+    Rect place = PlaceOfSurface(*Main, surface);
+    Point origin;
+    if (surface.Kind == SurfaceKind::Workspace) {
+        origin = {Main->View.Window.Left, Main->View.Window.Top};
+    } else {
+        const bool framed = surface.Kind == SurfaceKind::Picture &&
+                            Main->PicView(surface.Index).In.Kind == ParentKind::ContainerFrame;
+        const SurfaceId above =
+            framed ? SurfaceId{SurfaceKind::Container, Main->PicView(surface.Index).In.Index} : SurfaceId{};
+        const Rect parent = OnScreen(above);
+        origin = {parent.Left, parent.Top};
+    }
+    place.Left += origin.X;
+    place.Top += origin.Y;
+    return place;
+}
+
+SurfaceId Desk::TopAt(Point screen) const {
+    SurfaceId top;
+    for (const SurfaceId surface : Surfaces(*Main))
+        if (SurfaceVisible(*Main, surface) && OnScreen(surface).Contains(screen.X, screen.Y)) top = surface;
+    return top;
+}
+
+MouseEvent Desk::EventAt(SurfaceId surface, Point at, MouseButton button) const {
+    const Rect place = OnScreen(surface);
+    MouseEvent event;
+    event.At = at;
+    event.Screen = {place.Left + at.X, place.Top + at.Y};
+    event.Button = button;
+    return event;
+}
+
+// ---- the mouse
+
+void Desk::Click(SurfaceId surface, Point at, MouseButton button) {
+    const auto event = EventAt(surface, at, button);
+    Computer.Windows.Cursor = event.Screen;
+    MouseMove(*Main, surface, EventAt(surface, at, MouseButton::None));
+    MouseDown(*Main, surface, event);
+    MouseUp(*Main, surface, event);
+    Turn();
+}
+
+void Desk::ClickOn(ElementKind kind, int index, MouseButton button) {
+    const Found found = Must(kind, index);
+    Click(found.Surface, found.At, button);
+}
+
+void Desk::DoubleClickOn(ElementKind kind, int index) {
+    const Found found = Must(kind, index);
+    const auto event = EventAt(found.Surface, found.At, MouseButton::Left);
+    Click(found.Surface, found.At);
+    MouseDoubleClick(*Main, found.Surface, event);
+    MouseUp(*Main, found.Surface, event);
+    Turn();
+}
+
+void Desk::PointAt(ElementKind kind, int index) {
+    const Found found = Must(kind, index);
+    const auto event = EventAt(found.Surface, found.At, MouseButton::None);
+    Computer.Windows.Cursor = event.Screen;
+    MouseMove(*Main, found.Surface, event);
+    Turn();
+}
+
+// The surface may move under the mouse meanwhile; where the mouse is on the screen stays true.
+void Desk::Drag(ElementKind kind, int index, Point by) {
+    const Found found = Must(kind, index);
+    const auto start = EventAt(found.Surface, found.At, MouseButton::Left);
+    MouseDown(*Main, found.Surface, start);
+    MouseEvent event = start;
+    for (const float part : {0.5F, 1.0F}) {
+        event.Screen = {start.Screen.X + by.X * part, start.Screen.Y + by.Y * part};
+        const Rect place = OnScreen(found.Surface);
+        event.At = {event.Screen.X - place.Left, event.Screen.Y - place.Top};
+        Computer.Windows.Cursor = event.Screen;
+        MouseMove(*Main, found.Surface, event);
+    }
+    MouseUp(*Main, found.Surface, event);
+    Turn();
+}
+
+// ---- the keyboard
+
+void Desk::TypeInNote(int index, const std::string& text) {
+    ClickOn(ElementKind::ContainerNote, index);
+    ContainerNote_GotFocus(*Main, index);
+    KeyEvent key;
+    key.Text = text;
+    key.InTextField = true;
+    ContainerNote_KeyDown(*Main, index, key);
+    ContainerNote_Change(*Main, index, Main->ConView(index).ContainerNote.Text + text);
+    Turn();
+}
+
+void Desk::LeaveNote(int index) {
+    ContainerNote_LostFocus(*Main, index);
+    Turn();
+}
+
+void Desk::PressKey(int code, bool ctrl, bool shift, bool alt) {
+    KeyEvent key;
+    key.Code = code;
+    key.Ctrl = ctrl;
+    key.Shift = shift;
+    key.Alt = alt;
+    Form_KeyDown(*Main, key);
+    Turn();
+}
+
+void Desk::MoveWindow(const Rect& place) {
+    Computer.Windows.MovedByPerson(place);
+    Turn();
+}
+
+// ---- the tables
+
+std::vector<std::string> Desk::Containers() const {
+    std::vector<std::string> names;
+    for (const auto& row : Live(Main->Containers))
+        names.push_back(Main->ConView(row.Index).ContainerLabel.Caption);
+    return names;
+}
+
+int Desk::ContainerNamed(const std::string& name) const {
+    for (const auto& row : Live(Main->Containers))
+        if (Main->ConView(row.Index).ContainerLabel.Caption == name) return row.Index;
+    return -1;
+}
+
+int Desk::ShortcutNamed(const std::string& caption) const {
+    for (const auto& row : Live(Main->Shortcuts))
+        if (Main->LinkView(row.Index).lblShortcut.Caption == caption) return row.Index;
+    return -1;
+}
+
+} // namespace quill::fake

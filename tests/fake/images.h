@@ -1,0 +1,24 @@
+// The fake computer's pictures: a path has the size that a test gives it; any other is no picture.
+#pragma once
+
+#include "platform/drawing.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace quill::fake {
+
+class FakeImages : public Images {
+public:
+    Size PictureSize(const std::string& path) const override {
+        const auto found = Sizes.find(path);
+        return found == Sizes.end() ? Size{} : found->second;
+    }
+    void Forget(const std::string& path) override { Forgotten.push_back(path); }
+
+    std::map<std::string, Size> Sizes;
+    std::vector<std::string> Forgotten;
+};
+
+} // namespace quill::fake

@@ -1,0 +1,112 @@
+#include "fake/windows.h"
+
+#include "fake/words.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quill::fake {
+
+std::string NameOf(WindowId window) {
+    static constexpr std::array Names{"frmMain",    "frmSplash", "frmMiniDock",  "frmMiniToolbar",
+                                      "frmExplode", "frmTip",    "frmContainer", "frmContainerLabel"};
+    const std::string name = Names.at(static_cast<std::size_t>(window.Name));
+    return window.Index == -1 ? name : name + "(" + std::to_string(window.Index) + ")";
+}
+
+void FakeWindows::Place(WindowId window, const Rect& place) {
+    windows_[window].Place = place;
+    if (window == MainWindow) PendingMove = place;
+    Log.push_back("place " + NameOf(window) + " " + Words(place));
+}
+
+void FakeWindows::Show(WindowId window, Activate activate) {
+    windows_[window].Visible = true;
+    Raise(window);
+    if (activate == Activate::Yes) Foreground = window;
+    Log.push_back("show " + NameOf(window) + (activate == Activate::Yes ? " active" : ""));
+}
+
+void FakeWindows::Hide(WindowId window) {
+    windows_[window].Visible = false;
+    std::erase(Stacking, window);
+    if (Foreground == window) Foreground.reset();
+    Log.push_back("hide " + NameOf(window));
+}
+
+void FakeWindows::SetState(WindowId window, WindowState state) {
+    windows_[window].State = state;
+    if (window == MainWindow) PendingState = state;
+    static constexpr std::array Names{"normal", "minimized", "maximized"};
+    Log.push_back("state " + NameOf(window) + " " + Names.at(static_cast<std::size_t>(state)));
+}
+
+void FakeWindows::SetOpacity(WindowId window, int alpha) {
+    windows_[window].Opacity = alpha;
+    Log.push_back("opacity " + NameOf(window) + " " + std::to_string(alpha));
+}
+
+void FakeWindows::SetWindowOnTop(WindowId window, bool topMost) {
+    windows_[window].OnTop = topMost;
+    if (topMost && windows_[window].Visible) Raise(window);
+    Log.push_back((topMost ? "ontop " : "notontop ") + NameOf(window));
+}
+
+void FakeWindows::SetTaskbarEntry(WindowId window, bool shown) {
+    windows_[window].TaskbarEntry = shown;
+    Log.push_back("taskbar " + NameOf(window) + (shown ? " yes" : " no"));
+}
+
+void FakeWindows::SetForegroundWindow(WindowId window) {
+    Foreground = window;
+    if (windows_[window].Visible) Raise(window);
+    Log.push_back("foreground " + NameOf(window));
+}
+
+void FakeWindows::BeginMove(WindowId window) {
+    Moving = window;
+    Log.push_back("beginmove " + NameOf(window));
+}
+
+void FakeWindows::BeginResize(WindowId window, int edges) {
+    Resizing = window;
+    Log.push_back("beginresize " + NameOf(window) + " " + std::to_string(edges));
+}
+
+void FakeWindows::SetCursorPos(Point place) {
+    Cursor = place;
+    Log.push_back("cursor " + Words(place));
+}
+
+const FakeWindow& FakeWindows::Of(WindowId window) const {
+    static const FakeWindow untouched;
+    const auto found = windows_.find(window);
+    return found == windows_.end() ? untouched : found->second;
+}
+
+void FakeWindows::MovedByPerson(const Rect& place) {
+    windows_[MainWindow].Place = place;
+    PendingMove = place;
+    Moving.reset();
+    Resizing.reset();
+}
+
+void FakeWindows::EndProcess() {
+    windows_.clear();
+    Stacking.clear();
+    Foreground.reset();
+    PendingMove.reset();
+    PendingState.reset();
+    Moving.reset();
+    Resizing.reset();
+}
+
+// Above its equals: what is on top stays above what is not.
+void FakeWindows::Raise(WindowId window) {
+    std::erase(Stacking, window);
+    Stacking.push_back(window);
+    std::stable_partition(Stacking.begin(), Stacking.end(),
+                          [this](WindowId id) { return !windows_[id].OnTop; });
+}
+
+} // namespace quill::fake
