@@ -116,9 +116,8 @@ void WriteReminder(std::string& out, std::string_view tag, const Record& record)
 }
 
 // The records of what lies in the container; written from the tables, behind all tags.
-template <bool (*ReadOne)(TagReader&, std::string_view, std::string_view, ObjectRecords&)>
 bool ReadObjectTag(TagReader& reader, std::string_view tag, Record& record) {
-    ReadOne(reader, tag, record.Version, record.Objects);
+    ReadObject(reader, tag, record.Version, record.Objects);
     return !reader.Damaged();
 }
 
@@ -177,8 +176,8 @@ constexpr Row Tags[] = {
     Always<&Record::W>("[W]"),
     Always<&Record::H>("[H]"),
     WhenSet<&Record::ShowTag>("[ShowTag]"),
-    {PictureOpen, &ReadObjectTag<&ReadObject>, nullptr},
-    {LinkOpen, &ReadObjectTag<&ReadObject>, nullptr},
+    {PictureOpen, &ReadObjectTag, nullptr},
+    {LinkOpen, &ReadObjectTag, nullptr},
 };
 
 } // namespace

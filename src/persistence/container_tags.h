@@ -38,8 +38,8 @@ struct ContainerRecord {
     std::optional<std::int16_t> RSSFontSize;
     std::optional<bool> RefreshOnExpand, BuiltInViewer, ArticleTooltip, HighlightSearchTerms, Filter;
     std::optional<std::string_view> FilterString;
-    std::string ReadNote;       // what was read, CR LF behind each line
-    std::string_view WriteNote; // what is to be written
+    std::string ReadNote;                        // what was read, CR LF behind each line
+    std::string_view WriteNote;                  // what is to be written
     std::int32_t ConShrinkW = 0, ConShrinkH = 0; // 0: the default
     std::optional<ReminderFields> ReminderV2;
     bool Folded = false, DetachedConFolded = false, Flipped = false, Detached = false;

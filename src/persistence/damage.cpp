@@ -14,13 +14,20 @@ constexpr std::size_t MostTold = 5; // sentences in one box
 
 constexpr std::string_view SentenceFor(DamageKind kind) {
     switch (kind) {
-    case DamageKind::BadValue: return "%1, line %2: \"%4\" is no value for %3.";
-    case DamageKind::CutOff: return "%1 ends at line %2, in the middle of %3.";
-    case DamageKind::NoHead: return "%1 holds nothing that Quillmere can read.";
-    case DamageKind::Binary: return "%1, line %2: there are bytes that are no text.";
-    case DamageKind::LongLine: return "%1, line %2: the line is longer than 4 MB.";
-    case DamageKind::TooLarge: return "%1 is larger than 256 MB.";
-    case DamageKind::Unreadable: return "%1 can't be read: %4.";
+    case DamageKind::BadValue:
+        return "%1, line %2: \"%4\" is no value for %3.";
+    case DamageKind::CutOff:
+        return "%1 ends at line %2, in the middle of %3.";
+    case DamageKind::NoHead:
+        return "%1 holds nothing that Quillmere can read.";
+    case DamageKind::Binary:
+        return "%1, line %2: there are bytes that are no text.";
+    case DamageKind::LongLine:
+        return "%1, line %2: the line is longer than 4 MB.";
+    case DamageKind::TooLarge:
+        return "%1 is larger than 256 MB.";
+    case DamageKind::Unreadable:
+        return "%1 can't be read: %4.";
     }
     return {};
 }
@@ -28,13 +35,16 @@ constexpr std::string_view SentenceFor(DamageKind kind) {
 constexpr std::string_view QuestionFor(DamagedSet set) {
     switch (set) {
     case DamagedSet::Settings:
-        return "Go on with the settings that stand before it? A copy of the file is kept beside it, under a name "
+        return "Go on with the settings that stand before it? A copy of the file is kept beside it, under a "
+               "name "
                "that ends in \".damaged\".";
     case DamagedSet::Containers:
-        return "Go on without it? A copy of the file is kept beside it, under a name that ends in \".damaged\"; "
+        return "Go on without it? A copy of the file is kept beside it, under a name that ends in "
+               "\".damaged\"; "
                "all other containers are loaded.";
     case DamagedSet::Recovery:
-        return "These are the changes since the last save. Go on with the workspace as it was saved? The damaged "
+        return "These are the changes since the last save. Go on with the workspace as it was saved? The "
+               "damaged "
                "files are kept under other names.";
     }
     return {};
@@ -52,7 +62,8 @@ std::string Sentences(const frmMain& Main, const std::vector<Damage>& found) {
 } // namespace
 
 std::string DamageText(const frmMain& Main, const Damage& damage) {
-    return Tr(Main, SentenceFor(damage.Kind), damage.File, std::to_string(damage.Line), damage.Tag, damage.Value);
+    return Tr(Main, SentenceFor(damage.Kind), damage.File, std::to_string(damage.Line), damage.Tag,
+              damage.Value);
 }
 
 bool AskAboutDamage(frmMain& Main, DamagedSet set, const std::vector<Damage>& found) {

@@ -38,8 +38,7 @@ class Change {
 public:
     explicit Change(bool durable) { plan_.Durable = durable; }
 
-    void Write(const std::string& name, const std::string& bytes,
-               const WrittenFile& sum); // keeps a view of bytes
+    void Write(const std::string& name, std::string bytes, const WrittenFile& sum);
     void Take(const std::string& from, const std::string& to, const WrittenFile& sum);
     void Aside(const std::string& from, const std::string& to);
     void Drop(const std::string& name);

@@ -22,7 +22,8 @@ struct LoadedText {
 void CutAtBinary(LoadedText& text) {
     const std::size_t zero = text.Bytes.find('\0');
     if (zero == std::string::npos) return;
-    const auto line = std::count(text.Bytes.begin(), text.Bytes.begin() + static_cast<std::ptrdiff_t>(zero), '\n');
+    const auto line =
+        std::count(text.Bytes.begin(), text.Bytes.begin() + static_cast<std::ptrdiff_t>(zero), '\n');
     const std::size_t feed = text.Bytes.rfind('\n', zero);
     text.Bytes.resize(feed == std::string::npos ? 0 : feed + 1);
     text.Found = Damage{.Kind = DamageKind::Binary, .Line = static_cast<std::size_t>(line) + 1};
@@ -72,7 +73,8 @@ std::optional<Damage> CheckSettings(const FileReader& files, const std::string& 
     return text.Missing ? std::nullopt : Named(text, ParseSettings(text.Bytes, record), path);
 }
 
-std::optional<Damage> CheckContainer(const FileReader& files, const std::string& path, ContainerRecord& record) {
+std::optional<Damage> CheckContainer(const FileReader& files, const std::string& path,
+                                     ContainerRecord& record) {
     const LoadedText text = LoadText(files, path);
     return text.Missing ? std::nullopt : Named(text, ParseContainer(text.Bytes, record), path);
 }

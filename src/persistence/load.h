@@ -24,8 +24,8 @@ struct DeferredSettings {
 void InitDefaultSettings(SettingsRecord& settings); // all but colours, fonts and icon sizes
 void InitAppearanceDefaults(SettingsRecord& settings);
 
-void FinishInterruptedSave(frmMain& Main);       // first: what a death left half moved
-GenerationFiles ChooseGeneration(frmMain& Main); // .bak of older versions, recovery set, committed set
+void FinishInterruptedSave(frmMain& Main);          // first: what a death left half moved
+GenerationFiles ChooseGeneration(frmMain& Main);    // .bak of older versions, recovery set, committed set
 GenerationFiles CommittedGeneration(frmMain& Main); // the same with the recovery set left out: it is damaged
 // Tries whether the recovery set can be read whole; where it can't be, asks, and files becomes the committed
 // set. False when the user chose to end.
@@ -35,8 +35,8 @@ bool SettleGeneration(frmMain& Main, GenerationFiles& files);
 bool ReadSettingsFile(frmMain& Main, const GenerationFiles& files, DeferredSettings& deferred);
 // #STARTUP containers are added to startup. False: the load ended (limit, or the user's wish).
 bool ReadContainerFiles(frmMain& Main, const GenerationFiles& files, std::vector<int>& startup);
-// On the disk, after all has loaded: what was read becomes the committed generation. Call it after every load;
-// mostly there is nothing to do. A recovery set that was not read goes aside whole.
+// On the disk, after all has loaded: what was read becomes the committed generation. Call it after every
+// load; mostly there is nothing to do. A recovery set that was not read goes aside whole.
 void TakeOverRecovery(frmMain& Main, const GenerationFiles& files);
 
 } // namespace quill

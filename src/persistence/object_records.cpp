@@ -13,7 +13,8 @@ constexpr std::string_view LastOldVersion = "106"; // compared as text
 // The tags in there mean something else outside of a record.
 void PassOver(TagReader& reader, std::string_view close) {
     std::string_view line;
-    while (reader.Next(line) && line != close) {}
+    while (reader.Next(line) && line != close) {
+    }
 }
 
 void ReadLinkOf(TagReader& reader, std::string_view version, ObjectRecords& records) {

@@ -97,7 +97,8 @@ bool ReadLine(TagReader& reader, std::string_view line, Place& place, SettingsFi
         return ReadSetting(reader, *row, record);
     if (ReadObject(reader, line, place.Version, record.Objects)) return !reader.Damaged();
     if (NumberIn(line, SubjectKey, MaxSubjects)) return ReadSubject(reader, line, record);
-    if (const auto number = NumberIn(line, RecentKey, MaxRecent)) return ReadRecent(reader, line, *number, record);
+    if (const auto number = NumberIn(line, RecentKey, MaxRecent))
+        return ReadRecent(reader, line, *number, record);
     return true;
 }
 
@@ -133,7 +134,8 @@ std::optional<Damage> ParseSettings(std::string_view bytes, SettingsFileRecord& 
     std::string_view line;
     const bool headed = reader.Next(line);
     place.Version = Trimmed(line);
-    while (reader.Next(line) && ReadLine(reader, line, place, record)) {}
+    while (reader.Next(line) && ReadLine(reader, line, place, record)) {
+    }
     auto damage = reader.Finish();
     if (!damage && !headed) damage = Damage{.Kind = DamageKind::NoHead};
     return damage;

@@ -5,8 +5,8 @@
 #include "core/frmMain.h"
 #include "persistence/damage.h"
 #include "persistence/load.h"
-#include "persistence/objects_by_parent.h"
 #include "persistence/object_records.h"
+#include "persistence/objects_by_parent.h"
 
 #include <array>
 #include <optional>

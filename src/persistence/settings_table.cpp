@@ -17,8 +17,7 @@ namespace {
 
 using Row = SettingsRow;
 
-template <auto Member>
-using FieldOf = std::remove_cvref_t<decltype(std::declval<SettingsRecord&>().*Member)>;
+template <auto Member> using FieldOf = std::remove_cvref_t<decltype(std::declval<SettingsRecord&>().*Member)>;
 
 template <class Value> struct BareType { using Type = Value; };
 template <class Value> struct BareType<std::optional<Value>> { using Type = Value; };
@@ -57,8 +56,17 @@ template <auto Member> bool IsSet(const frmMain& Main) {
 
 template <auto Member>
 constexpr Row Option(std::string_view key, std::string_view standard, float low = 0, float high = 0) {
-    return {key, SettingKind::Option, TypeName<FieldOf<Member>>(), standard, low, high,
-            &ReadableAs<FieldOf<Member>>, &ApplyField<Member>, &WriteSetting<Member>, nullptr, &SetField<Member>};
+    return {key,
+            SettingKind::Option,
+            TypeName<FieldOf<Member>>(),
+            standard,
+            low,
+            high,
+            &ReadableAs<FieldOf<Member>>,
+            &ApplyField<Member>,
+            &WriteSetting<Member>,
+            nullptr,
+            &SetField<Member>};
 }
 template <auto Member>
 constexpr Row Looks(std::string_view key, std::string_view standard, float low = 0, float high = 0) {
@@ -87,8 +95,7 @@ constexpr Row Window(std::string_view key, std::string_view standard, ApplyValue
 }
 
 // Kept for the end of the load, as text that is "1" or "0", or a number with ".".
-template <class Value, auto Member>
-void Defer(frmMain&, DeferredSettings& deferred, std::string_view text) {
+template <class Value, auto Member> void Defer(frmMain&, DeferredSettings& deferred, std::string_view text) {
     Value value{};
     if (!ReadValue(text, value)) return;
     AppendValue((deferred.*Member).emplace(), value);
@@ -281,11 +288,16 @@ void SetDefaults(SettingsRecord& settings, SettingKind kind) {
 
 std::string_view KindText(SettingKind kind) {
     switch (kind) {
-    case SettingKind::Option: return "option";
-    case SettingKind::Appearance: return "appearance";
-    case SettingKind::Place: return "only when known";
-    case SettingKind::Window: return "window";
-    case SettingKind::Ignored: return "read and ignored";
+    case SettingKind::Option:
+        return "option";
+    case SettingKind::Appearance:
+        return "appearance";
+    case SettingKind::Place:
+        return "only when known";
+    case SettingKind::Window:
+        return "window";
+    case SettingKind::Ignored:
+        return "read and ignored";
     }
     return {};
 }
@@ -337,10 +349,18 @@ Rect NormalPlace(const frmMain& Main) {
     if (Main.Dock.DockPosition == 0) return place;
     const Rect monitor = MonitorOf(Main, place);
     switch (Main.Dock.DockPosition) {
-    case 1: place.Top = monitor.Top; break;
-    case 2: place.Left = monitor.Left; break;
-    case 3: place.Left = monitor.Right() - place.Width; break;
-    case 4: place.Top = monitor.Bottom() - place.Height; break;
+    case 1:
+        place.Top = monitor.Top;
+        break;
+    case 2:
+        place.Left = monitor.Left;
+        break;
+    case 3:
+        place.Left = monitor.Right() - place.Width;
+        break;
+    case 4:
+        place.Top = monitor.Bottom() - place.Height;
+        break;
     }
     return place;
 }

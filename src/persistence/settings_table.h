@@ -25,13 +25,13 @@ enum class SettingKind {
 struct SettingsRow {
     std::string_view Key;
     SettingKind Kind = SettingKind::Window;
-    std::string_view Type;       // for the documentation: "Boolean", "16-bit" ...
-    std::string_view Default;    // as it stands in a file
-    float Low = 0, High = 0;     // bounds where the value is used; equal: those of the type
+    std::string_view Type;    // for the documentation: "Boolean", "16-bit" ...
+    std::string_view Default; // as it stands in a file
+    float Low = 0, High = 0;  // bounds where the value is used; equal: those of the type
     bool (*Readable)(std::string_view text) = nullptr;
     void (*Apply)(frmMain& Main, DeferredSettings& deferred, std::string_view text) = nullptr;
-    void (*Write)(std::string& out, const frmMain& Main) = nullptr; // the value; null: never written
-    bool (*Stands)(const frmMain& Main) = nullptr;                  // null: always
+    void (*Write)(std::string& out, const frmMain& Main) = nullptr;         // the value; null: never written
+    bool (*Stands)(const frmMain& Main) = nullptr;                          // null: always
     bool (*Set)(SettingsRecord& settings, std::string_view text) = nullptr; // null for the window's
 };
 

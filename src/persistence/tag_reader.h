@@ -53,7 +53,8 @@ private:
     LineReader lines_;
     std::optional<Damage> damage_;
     bool noteEnded_ = false;
-    // Bytes left behind the last line that ends a note, plus one; 0: there is none, empty: not looked for yet.
+    // Bytes left behind the last line that ends a note, plus one; 0: there is none, empty: not looked for
+    // yet.
     std::optional<std::size_t> lastNoteEnd_;
 };
 

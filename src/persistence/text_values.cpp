@@ -134,7 +134,8 @@ bool NeedsUri(std::string_view path) {
 
 bool StandsInUri(char letter) {
     return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
-           (letter >= '0' && letter <= '9') || std::string_view("/-_.~@").find(letter) != std::string_view::npos;
+           (letter >= '0' && letter <= '9') ||
+           std::string_view("/-_.~@").find(letter) != std::string_view::npos;
 }
 
 int HexDigit(char letter) {
@@ -228,7 +229,8 @@ void AppendValue(std::string& out, std::int32_t value) {
 }
 
 void AppendValue(std::string& out, float value) {
-    const bool whole = value >= -1e9F && value <= 1e9F && value == static_cast<float>(static_cast<std::int32_t>(value));
+    const bool whole =
+        value >= -1e9F && value <= 1e9F && value == static_cast<float>(static_cast<std::int32_t>(value));
     if (whole) return AppendValue(out, static_cast<std::int32_t>(value));
     char digits[128];
     const double bounded = std::isnan(value) ? 0 : std::clamp<double>(value, WholeLow, WholeHigh);

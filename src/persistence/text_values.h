@@ -26,7 +26,7 @@ std::optional<std::int32_t> ReadWhole(std::string_view text);
 // A whole number beyond its type's range ends at the bound.
 bool ReadValue(std::string_view text, bool& field);
 bool ReadValue(std::string_view text, float& field);
-bool ReadValue(std::string_view text, std::string& field); // trimmed
+bool ReadValue(std::string_view text, std::string& field);      // trimmed
 bool ReadValue(std::string_view text, std::string_view& field); // as it stands
 template <std::integral Whole> bool ReadValue(std::string_view text, Whole& field) {
     const auto value = ReadWhole(text);

@@ -117,6 +117,10 @@ PlacesSources PlacesSourcesOfSystem() {
     return sources;
 }
 
+std::string ExecutableFolder() {
+    return FolderOf(RealExecutable());
+}
+
 std::string UserFolderNamed(const std::string& text, const std::string& name, const std::string& home) {
     std::string found;
     std::string_view rest = text;

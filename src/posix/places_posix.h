@@ -22,6 +22,9 @@ struct PlacesSources {
 
 PlacesSources PlacesSourcesOfSystem();
 
+// Where the running program itself stands, in an image file too.
+std::string ExecutableFolder();
+
 class PlacesPosix : public Places {
 public:
     explicit PlacesPosix(PlacesSources sources);

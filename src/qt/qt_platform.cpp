@@ -46,8 +46,9 @@ QtPlatform::~QtPlatform() = default;
 
 Platform QtPlatform::Ports() {
     auto& parts = *parts_;
-    return {parts.Files,     parts.Places,    parts.Clock,  parts.Instance, parts.Session, parts.Windows, parts.Shell,
-            parts.Questions, parts.Texts,     parts.Catalogue, parts.Images, parts.Worker, parts.Zip};
+    return {parts.Files,   parts.Places, parts.Clock,     parts.Instance, parts.Session,
+            parts.Windows, parts.Shell,  parts.Questions, parts.Texts,    parts.Catalogue,
+            parts.Images,  parts.Worker, parts.Zip};
 }
 
 } // namespace quill::qt

@@ -1,6 +1,6 @@
 // The fake computer's clock: it moves only when told. Advance runs what falls due in order: single events,
-// then timers (of two that are due at once the one that was started first), then frames of 20 ms. Who is called
-// stands in OnTimer and OnFrame; fake/desk.h leads them to the workspace's handlers.
+// then timers (of two that are due at once the one that was started first), then frames of 20 ms. Who is
+// called stands in OnTimer and OnFrame; fake/desk.h leads them to the workspace's handlers.
 #pragma once
 
 #include "platform/clock.h"

@@ -209,8 +209,10 @@ https://example.org/?a=1
 // The part that stands between the note and the end of a container with nothing special.
 std::string OrdinaryTail(const std::string& place) {
     return "[ConShrinkW]\n700\n[ConShrinkH]\n950\n[Folded]\n0\n[DetachedConFolded]\n0\n[Flipped]\n0\n"
-           "[DetachedUndockOnClick]\n0\n[DetachedTab]\n1\n[DetachedCollapseOnClick]\n1\n[DetachedTransparent]\n0\n"
-           "[DetachedOnTop]\n0\n[DetachedFadeOut]\n1\n[DetachedTabX]\n0\n[DetachedTabY]\n0\n[DetachedTabH]\n0\n"
+           "[DetachedUndockOnClick]\n0\n[DetachedTab]\n1\n[DetachedCollapseOnClick]\n1\n[DetachedTransparent]"
+           "\n0\n"
+           "[DetachedOnTop]\n0\n[DetachedFadeOut]\n1\n[DetachedTabX]\n0\n[DetachedTabY]\n0\n[DetachedTabH]"
+           "\n0\n"
            "[DetachedTabW]\n0\n[DetachedTabDocked]\n0\n[DetachedX]\n0\n[DetachedY]\n0\n[DetachedH]\n0\n"
            "[DetachedW]\n0\n[Spacebar Flip]\n0\n[Encrypted]\n0\n[LineSpacing]\n155\n[Shrink]\n0\n" +
            place;
@@ -218,23 +220,27 @@ std::string OrdinaryTail(const std::string& place) {
 
 const std::string OrdinaryPlace = "[X]\n100\n[Y]\n200\n[W]\n3000\n[H]\n2000\n";
 
-const std::string Feed = "108\n[RSS]\nhttps://example.org/feed\nNews\n-1\n[Name]\nNews\n[Date]\n\n[Modified]\n\n"
-                         "[Backcolor]\n255\n[Forecolor]\n65280\n[ContainerTextBack]\n1\n[ContainerTextFor]\n2\n"
-                         "[Icon]\nrss.ico\n[CopyPath]\nhttps://example.org/feed\n[AutoRefresh]\n30\n[NOTE ON]\n0\n"
-                         "[NoteFontSize]\n10\n[RSSFontSize]\n11\n[RefreshOnExpand]\n1\n[BuiltInViewer]\n0\n"
-                         "[ArticleTooltip]\n0\n[HighlightSearchTerms]\n0\n[Filter]\n1\n[FilterString]\n rain \n"
-                         "[START Note]\n[END Note]\n" +
-                         OrdinaryTail(OrdinaryPlace);
+const std::string Feed =
+    "108\n[RSS]\nhttps://example.org/feed\nNews\n-1\n[Name]\nNews\n[Date]\n\n[Modified]\n\n"
+    "[Backcolor]\n255\n[Forecolor]\n65280\n[ContainerTextBack]\n1\n[ContainerTextFor]\n2\n"
+    "[Icon]\nrss.ico\n[CopyPath]\nhttps://example.org/feed\n[AutoRefresh]\n30\n[NOTE ON]\n0\n"
+    "[NoteFontSize]\n10\n[RSSFontSize]\n11\n[RefreshOnExpand]\n1\n[BuiltInViewer]\n0\n"
+    "[ArticleTooltip]\n0\n[HighlightSearchTerms]\n0\n[Filter]\n1\n[FilterString]\n rain \n"
+    "[START Note]\n[END Note]\n" +
+    OrdinaryTail(OrdinaryPlace);
 
 std::string OfContainer(const std::string& name, const std::string& copyPath, const std::string& rest) {
     return "108\n[Container]\n-1\n[Name]\n" + name +
-           "\n[Date]\n\n[Modified]\n\n[Backcolor]\n2688768\n[Forecolor]\n16777215\n[ContainerTextBack]\n14810623\n"
+           "\n[Date]\n\n[Modified]\n\n[Backcolor]\n2688768\n[Forecolor]\n16777215\n[ContainerTextBack]"
+           "\n14810623\n"
            "[ContainerTextFor]\n0\n[Icon]\nemptyicon.ico\n[CopyPath]\n" +
-           copyPath + "\n[AutoRefresh]\n0\n[NOTE ON]\n0\n[NoteFontSize]\n10\n[START Note]\n[END Note]\n" + rest;
+           copyPath + "\n[AutoRefresh]\n0\n[NOTE ON]\n0\n[NoteFontSize]\n10\n[START Note]\n[END Note]\n" +
+           rest;
 }
 
 const std::string Plain = OfContainer("Plain", "", OrdinaryTail(OrdinaryPlace));
-const std::string FolderConnector = OfContainer("Folder", "/home/user/Documents", OrdinaryTail(OrdinaryPlace));
+const std::string FolderConnector =
+    OfContainer("Folder", "/home/user/Documents", OrdinaryTail(OrdinaryPlace));
 
 void ExpectWrittenBack(const std::string& text) {
     Formats loaded;
@@ -266,7 +272,8 @@ std::string With(std::string text, const std::string& from, const std::string& t
 
 TEST(ContainerFile, AReminderIsWrittenBackWithItsSixLines) {
     Formats loaded;
-    loaded.PutContainer(With(Plain, "[Folded]", "[ReminderV2]\n 17 \n5\n2026\n12\n31\nDec 31, 2026 5:05 PM\n[Folded]"));
+    loaded.PutContainer(
+        With(Plain, "[Folded]", "[ReminderV2]\n 17 \n5\n2026\n12\n31\nDec 31, 2026 5:05 PM\n[Folded]"));
     ASSERT_TRUE(loaded.Load());
     const Reminder& reminder = loaded.Con(0).ReminderRecord();
     EXPECT_TRUE(reminder.IsReminder);
@@ -303,7 +310,8 @@ TEST(ContainerFile, ATileKeepsTheSizeThatItExpandsTo) {
 
 TEST(ContainerFile, ATilesOwnSizeIsNeverTakenForItsFullSize) {
     Formats loaded;
-    loaded.PutContainer(With(With(Plain, "[Shrink]\n0", "[Shrink]\n1"), "[W]\n3000\n[H]\n2000", "[W]\n700\n[H]\n950"));
+    loaded.PutContainer(
+        With(With(Plain, "[Shrink]\n0", "[Shrink]\n1"), "[W]\n3000\n[H]\n2000", "[W]\n700\n[H]\n950"));
     ASSERT_TRUE(loaded.Load());
     EXPECT_TRUE(IsShrunk(loaded.Main, 0));
     EXPECT_EQ(ValueOf(loaded.Written(0), "[W]"), "3000");
@@ -394,8 +402,9 @@ TEST(ContainerFile, ANoteWithTheEndLineInItReloadsAsAShorterNote) {
 
 TEST(ContainerFile, BehindAnEarlyEndOfANoteAnUnreadableValueIsNoDamage) {
     Formats loaded;
-    loaded.PutContainer("108\n[Container]\n-1\n[START Note]\nfirst\n[END Note]\n[Backcolor]\nis my favourite tag\n"
-                        "[ReminderV2]\nsoon\n[Link]\n[Size]\nhuge\nrest\n[END Note]\n[Y]\n77\n[Name]\nAfter\n");
+    loaded.PutContainer(
+        "108\n[Container]\n-1\n[START Note]\nfirst\n[END Note]\n[Backcolor]\nis my favourite tag\n"
+        "[ReminderV2]\nsoon\n[Link]\n[Size]\nhuge\nrest\n[END Note]\n[Y]\n77\n[Name]\nAfter\n");
     ASSERT_TRUE(loaded.Load());
     EXPECT_TRUE(loaded.Computer.Questions.Boxes.empty());
     EXPECT_EQ(loaded.View(0).ContainerLabel.Caption, "After");
@@ -460,10 +469,11 @@ TEST(ContainerFile, AFolderConnectorIsMarkedOnItsLabel) {
 
 TEST(ContainerFile, FilesOfExistingUsersLoad) {
     Formats loaded;
-    loaded.PutRaw("108\r\n[Container]\r\n-1\r\n[Name]\r\nB\xFCro\r\n[Backcolor]\r\n 255 \r\n[Folded]\r\nFalse\r\n"
-                  "[Spacebar Flip]\r\nTrue\r\n[HideToolbar]\r\n-1\r\n[X]\r\n 150,5 \r\n[Y]\r\n 2.25\r\n"
-                  "[LineSpacing]\r\n 154.7 \r\n[NoteFontSize]\r\n9,75\r\n[START Note]\r\n\x84Gr\xFC\xDF\x65\x93\r\n"
-                  "[END Note]\r\n[DetachedX]\r\n10.6\r\n");
+    loaded.PutRaw(
+        "108\r\n[Container]\r\n-1\r\n[Name]\r\nB\xFCro\r\n[Backcolor]\r\n 255 \r\n[Folded]\r\nFalse\r\n"
+        "[Spacebar Flip]\r\nTrue\r\n[HideToolbar]\r\n-1\r\n[X]\r\n 150,5 \r\n[Y]\r\n 2.25\r\n"
+        "[LineSpacing]\r\n 154.7 \r\n[NoteFontSize]\r\n9,75\r\n[START Note]\r\n\x84Gr\xFC\xDF\x65\x93\r\n"
+        "[END Note]\r\n[DetachedX]\r\n10.6\r\n");
     ASSERT_TRUE(loaded.Load());
     EXPECT_EQ(loaded.View(0).ContainerLabel.Caption, "B\xC3\xBCro");
     EXPECT_EQ(loaded.View(0).FrameBackColor, 255);

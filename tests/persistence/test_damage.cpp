@@ -18,17 +18,26 @@ struct DamageCase {
 
 TEST(Damage, EachKindIsToldWithFileLineTagAndValue) {
     const DamageCase cases[] = {
-        {"a bad number", "108\n[Container]\n-1\n[Backcolor]\nblue\n", ", line 5: \"blue\" is no value for [Backcolor].\r\n"},
-        {"a bad truth value", "108\n[Container]\n-1\n[Folded]\nperhaps\n", ", line 5: \"perhaps\" is no value for [Folded].\r\n"},
-        {"a bad number in a shortcut", "108\n[Container]\n-1\n[Link]\n[LinkX]\nleft\n[End Link]\n", ", line 6: \"left\" is no value for [LinkX].\r\n"},
-        {"a bad reminder", "108\n[Container]\n-1\n[ReminderV2]\n1\nx\n", ", line 6: \"x\" is no value for [ReminderV2].\r\n"},
-        {"a tag without its value", "108\n[Container]\n-1\n[Folded]\n", " ends at line 4, in the middle of [Folded].\r\n"},
-        {"a note without an end", "108\n[Container]\n-1\n[START Note]\nabc\n", " ends at line 5, in the middle of [START Note].\r\n"},
-        {"a shortcut without an end", "108\n[Container]\n-1\n[Link]\n[LinkX]\n1\n", " ends at line 6, in the middle of [Link].\r\n"},
+        {"a bad number", "108\n[Container]\n-1\n[Backcolor]\nblue\n",
+         ", line 5: \"blue\" is no value for [Backcolor].\r\n"},
+        {"a bad truth value", "108\n[Container]\n-1\n[Folded]\nperhaps\n",
+         ", line 5: \"perhaps\" is no value for [Folded].\r\n"},
+        {"a bad number in a shortcut", "108\n[Container]\n-1\n[Link]\n[LinkX]\nleft\n[End Link]\n",
+         ", line 6: \"left\" is no value for [LinkX].\r\n"},
+        {"a bad reminder", "108\n[Container]\n-1\n[ReminderV2]\n1\nx\n",
+         ", line 6: \"x\" is no value for [ReminderV2].\r\n"},
+        {"a tag without its value", "108\n[Container]\n-1\n[Folded]\n",
+         " ends at line 4, in the middle of [Folded].\r\n"},
+        {"a note without an end", "108\n[Container]\n-1\n[START Note]\nabc\n",
+         " ends at line 5, in the middle of [START Note].\r\n"},
+        {"a shortcut without an end", "108\n[Container]\n-1\n[Link]\n[LinkX]\n1\n",
+         " ends at line 6, in the middle of [Link].\r\n"},
         {"no head", "108\n[Name]\nx\n", " holds nothing that Quillmere can read.\r\n"},
         {"nothing", "", " holds nothing that Quillmere can read.\r\n"},
-        {"zeros of a lost power", "108\n[Container]\n-1\n" + std::string(50, '\0'), ", line 4: there are bytes that are no text.\r\n"},
-        {"an endless line", "108\n[Container]\n-1\n" + std::string(MaxLineBytes + 1, 'x'), ", line 4: the line is longer than 4 MB.\r\n"},
+        {"zeros of a lost power", "108\n[Container]\n-1\n" + std::string(50, '\0'),
+         ", line 4: there are bytes that are no text.\r\n"},
+        {"an endless line", "108\n[Container]\n-1\n" + std::string(MaxLineBytes + 1, 'x'),
+         ", line 4: the line is longer than 4 MB.\r\n"},
     };
     for (const auto& row : cases) {
         Formats loaded;
@@ -51,11 +60,11 @@ TEST(Damage, OneBoxAsksInWordsThatAPersonCanActOn) {
     const auto& box = loaded.Computer.Questions.Boxes.at(0);
     EXPECT_EQ(box.Title, "Quillmere");
     EXPECT_EQ(box.Flags, BoxYesNo | BoxWarning);
-    EXPECT_EQ(box.Text,
-              loaded.files.Containers[0] +
-                  ", line 5: \"far\" is no value for [X].\r\n\r\nGo on without it? A copy of the file is kept beside it, "
-                  "under a name that ends in \".damaged\"; all other containers are loaded.\r\n\r\n\"No\" ends Quillmere "
-                  "and changes nothing on the disk.");
+    EXPECT_EQ(box.Text, loaded.files.Containers[0] + ", line 5: \"far\" is no value for [X].\r\n\r\nGo on "
+                                                     "without it? A copy of the file is kept beside it, "
+                                                     "under a name that ends in \".damaged\"; all other "
+                                                     "containers are loaded.\r\n\r\n\"No\" ends Quillmere "
+                                                     "and changes nothing on the disk.");
 }
 
 TEST(Damage, GoingOnKeepsACopyLoadsTheFilesBehindAndSavesAtOnce) {
@@ -109,8 +118,9 @@ TEST(Damage, ManyDamagedFilesAreAskedAboutOnce) {
 
 TEST(Damage, OfADamagedSettingsFileTheLinesBeforeHold) {
     Formats loaded;
-    loaded.PutSettings("108\n[Opacity]\n100\n[Link]\n[LinkType]\n2\n[LinkPath]\n/a\n[End Link]\n[MaxContainers]\nmany\n"
-                       "[Stretch]\n1\n");
+    loaded.PutSettings(
+        "108\n[Opacity]\n100\n[Link]\n[LinkType]\n2\n[LinkPath]\n/a\n[End Link]\n[MaxContainers]\nmany\n"
+        "[Stretch]\n1\n");
     loaded.PutContainer(Good);
     loaded.Computer.Questions.Answer(AnswerYes);
     ASSERT_TRUE(loaded.Load());
@@ -122,7 +132,8 @@ TEST(Damage, OfADamagedSettingsFileTheLinesBeforeHold) {
     EXPECT_TRUE(loaded.Computer.Files.Has(loaded.files.Settings + ".damaged"));
     EXPECT_TRUE(loaded.Main.Store.SaveAfterLoad);
     EXPECT_TRUE(loaded.Computer.Questions.LastBox().starts_with(
-        loaded.files.Settings + ", line 11: \"many\" is no value for [MaxContainers].\r\n\r\nGo on with the settings "));
+        loaded.files.Settings +
+        ", line 11: \"many\" is no value for [MaxContainers].\r\n\r\nGo on with the settings "));
 }
 
 TEST(Damage, SettingsBeforeLostBytesHold) {
@@ -151,6 +162,17 @@ TEST(Damage, AFileThatTheSystemDoesNotGiveIsSetAside) {
     EXPECT_EQ(LiveContainers(loaded.Main), 1);
     EXPECT_TRUE(loaded.Computer.Files.Has(loaded.files.Containers[0] + ".damaged"));
     EXPECT_NE(loaded.Computer.Questions.LastBox().find(" can't be read: "), std::string::npos);
+}
+
+TEST(Damage, AHugeFileIsDamage) {
+    Formats loaded;
+    loaded.PutContainer(Good);
+    loaded.Computer.Files.FailReading(loaded.files.Containers[0], Reason::TooLarge);
+    loaded.Computer.Questions.Answer(AnswerYes);
+    ASSERT_TRUE(loaded.Load());
+    EXPECT_TRUE(loaded.Computer.Questions.LastBox().starts_with(loaded.files.Containers[0] +
+                                                                " is larger than 256 MB.\r\n"));
+    EXPECT_TRUE(loaded.Computer.Files.Has(loaded.files.Containers[0] + ".damaged"));
 }
 
 TEST(Damage, AFileThatIsGoneMeanwhileIsNoDamage) {

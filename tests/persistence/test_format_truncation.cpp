@@ -13,11 +13,14 @@ using test::Formats;
 // A workspace with something of everything.
 struct Full : Formats {
     Full() {
-        PutSettings("108\n[RSS Search1]\nrain\n[Recent 1]\nx\n1\n2\npicBack\n[Picture]\n[PicPath]\n/a.jpg\n[End Picture]\n"
+        PutSettings("108\n[RSS Search1]\nrain\n[Recent "
+                    "1]\nx\n1\n2\npicBack\n[Picture]\n[PicPath]\n/a.jpg\n[End Picture]\n"
                     "[Link]\n[LinkType]\n2\n[LinkPath]\n/usr/bin/a\n[End Link]\n");
-        PutContainer("108\n[Container]\n-1\n[Name]\nReminder\n[START Note]\nbuy\nmilk\n[END Note]\n[ReminderV2]\n1\n2\n"
-                     "2026\n3\n4\nsoon\n[ShowTag]\nx\n[Picture]\n[PicX]\n1\n[End Picture]\n[Link]\n[LinkType]\n1\n"
-                     "[LinkPath]\nhttp://x\n[End Link]\n");
+        PutContainer(
+            "108\n[Container]\n-1\n[Name]\nReminder\n[START Note]\nbuy\nmilk\n[END "
+            "Note]\n[ReminderV2]\n1\n2\n"
+            "2026\n3\n4\nsoon\n[ShowTag]\nx\n[Picture]\n[PicX]\n1\n[End Picture]\n[Link]\n[LinkType]\n1\n"
+            "[LinkPath]\nhttp://x\n[End Link]\n");
         (void)Load();
     }
 };

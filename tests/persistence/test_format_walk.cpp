@@ -16,9 +16,23 @@ namespace {
 
 using test::Formats;
 
-const std::vector<std::string> Words = {"",        "plain",      " blanks ",   "two\nlines", "\tTab\x01", "[END Note]",
-                                        "[Link]",  "[X]",        "caf\xC3\xA9", "bad\xE9",    "-1",        "%2 %1",
-                                        "#STARTUP", "/a/b ",     "@/stick",    "file:///x",  std::string("nul\0l", 5)};
+const std::vector<std::string> Words = {"",
+                                        "plain",
+                                        " blanks ",
+                                        "two\nlines",
+                                        "\tTab\x01",
+                                        "[END Note]",
+                                        "[Link]",
+                                        "[X]",
+                                        "caf\xC3\xA9",
+                                        "bad\xE9",
+                                        "-1",
+                                        "%2 %1",
+                                        "#STARTUP",
+                                        "/a/b ",
+                                        "@/stick",
+                                        "file:///x",
+                                        std::string("nul\0l", 5)};
 
 // A naive model: what a person would say stands where. Texts as one line shows them.
 struct Model {
@@ -27,8 +41,8 @@ struct Model {
         std::vector<std::string> Links;
         std::vector<std::string> Notes;
     };
-    std::map<int, Box> Boxes;          // by table index
-    std::vector<std::string> Desktop;  // shortcuts on the workspace
+    std::map<int, Box> Boxes;         // by table index
+    std::vector<std::string> Desktop; // shortcuts on the workspace
 };
 
 std::string Shown(const std::string& text) {
@@ -43,15 +57,26 @@ public:
 
     void Step() {
         switch (Below(9)) {
-        case 0: return AddContainer();
-        case 1: return AddLink(false);
-        case 2: return AddLink(true);
-        case 3: return Delete();
-        case 4: return Note();
-        case 5: return With([&](int box) { FoldUnfoldContainer(desk_.Main, box, false); });
-        case 6: return With([&](int box) { ExpandShrinkContainer(desk_.Main, box, false); });
-        case 7: return With([&](int box) { desk_.Main.ConView(box).Container.Place.Left = Below(9000) / 7.0F; });
-        case 8: return With([&](int box) { AddToZorderCollection(desk_.Main, {KindContainer, box}, Below(2) == 0); });
+        case 0:
+            return AddContainer();
+        case 1:
+            return AddLink(false);
+        case 2:
+            return AddLink(true);
+        case 3:
+            return Delete();
+        case 4:
+            return Note();
+        case 5:
+            return With([&](int box) { FoldUnfoldContainer(desk_.Main, box, false); });
+        case 6:
+            return With([&](int box) { ExpandShrinkContainer(desk_.Main, box, false); });
+        case 7:
+            return With([&](int box) { desk_.Main.ConView(box).Container.Place.Left = Below(9000) / 7.0F; });
+        case 8:
+            return With([&](int box) {
+                AddToZorderCollection(desk_.Main, {KindContainer, box}, Below(2) == 0);
+            });
         }
     }
 
@@ -68,13 +93,16 @@ public:
         ASSERT_TRUE(next.Load()) << next.Computer.Questions.LastBox();
         ASSERT_TRUE(next.Computer.Questions.Boxes.empty());
         EXPECT_EQ(LinksIn(next.Main, OnWorkspace()), model_.Desktop);
-        for (std::size_t at = 0; at < order.size(); ++at) Compare(next, static_cast<int>(at), model_.Boxes.at(order[at]));
+        for (std::size_t at = 0; at < order.size(); ++at)
+            Compare(next, static_cast<int>(at), model_.Boxes.at(order[at]));
         ExpectStable(next);
     }
 
 private:
     int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
-    const std::string& Word() { return Words[static_cast<std::size_t>(Below(static_cast<int>(Words.size())))]; }
+    const std::string& Word() {
+        return Words[static_cast<std::size_t>(Below(static_cast<int>(Words.size())))];
+    }
 
     template <class Act> void With(Act act) {
         if (model_.Boxes.empty()) return;

@@ -29,7 +29,8 @@ TEST(ObjectRecords, AShortcutWithAnEmptyPathIsKept) {
     loaded.PutContainer(Head + Link("[LinkType]\n2\n[LinkLabel]\nNothing yet\n[LinkPath]\n\n"));
     ASSERT_TRUE(loaded.Load());
     ASSERT_EQ(loaded.Main.NextShortcutIndex, 1);
-    EXPECT_NE(loaded.Written(0).find("[LinkLabel]\nNothing yet\n[LinkType]\n2\n[LinkPath]\n\n"), std::string::npos);
+    EXPECT_NE(loaded.Written(0).find("[LinkLabel]\nNothing yet\n[LinkType]\n2\n[LinkPath]\n\n"),
+              std::string::npos);
 }
 
 TEST(ObjectRecords, OnlyTheLeftOfAShortcutIsReadAsAWholeNumber) {
@@ -42,7 +43,8 @@ TEST(ObjectRecords, OnlyTheLeftOfAShortcutIsReadAsAWholeNumber) {
 
 TEST(ObjectRecords, AColourOfItsOwnReachesTheLabel) {
     Formats loaded;
-    loaded.PutContainer(Head + "[Forecolor]\n65280\n" + Link("[LinkType]\n2\n[Color]\n 255 \n[Bold]\nTrue\n[Size]\n14\n") +
+    loaded.PutContainer(Head + "[Forecolor]\n65280\n" +
+                        Link("[LinkType]\n2\n[Color]\n 255 \n[Bold]\nTrue\n[Size]\n14\n") +
                         Link("[LinkType]\n2\n[Color]\n-1\n"));
     ASSERT_TRUE(loaded.Load());
     EXPECT_EQ(loaded.Main.LinkView(0).lblShortcut.ForeColor, 255);
@@ -55,7 +57,8 @@ TEST(ObjectRecords, AColourOfItsOwnReachesTheLabel) {
 
 TEST(ObjectRecords, LinksToLinksAreNotFollowedByTheReader) {
     Formats loaded;
-    loaded.PutContainer(Head + Link("[LinkType]\n2\n[LinkPath]\n/home/user/a.desktop\n[LinkLabel]\nOld name\n") +
+    loaded.PutContainer(Head +
+                        Link("[LinkType]\n2\n[LinkPath]\n/home/user/a.desktop\n[LinkLabel]\nOld name\n") +
                         Link("[LinkType]\n2\n[LinkPath]\n/home/user/folder/\n[LinkLabel]\nFolder\n"));
     ASSERT_TRUE(loaded.Load());
     EXPECT_EQ(loaded.Main.Link(0).FullCaption, "Old name");
@@ -81,9 +84,11 @@ TEST(ObjectRecords, TextsAreTrimmedWhereTheFormatTrimsThem) {
     link.FullCaption = link.Path = link.Parameters = " a ";
     link.Icon = link.Tags = link.StartIn = link.Tip = " b ";
     const auto text = loaded.Written(0);
-    for (const char* tag : {"[LinkLabel]", "[LinkPath]", "[LinkParam]"}) EXPECT_EQ(ValueOf(text, tag), "a") << tag;
+    for (const char* tag : {"[LinkLabel]", "[LinkPath]", "[LinkParam]"})
+        EXPECT_EQ(ValueOf(text, tag), "a") << tag;
     const auto record = text.substr(text.find("[Link]\n"));
-    for (const char* tag : {"[Icon]", "[Tags]", "[StartIn]", "[Tip]"}) EXPECT_EQ(ValueOf(record, tag), " b ") << tag;
+    for (const char* tag : {"[Icon]", "[Tags]", "[StartIn]", "[Tip]"})
+        EXPECT_EQ(ValueOf(record, tag), " b ") << tag;
 }
 
 TEST(ObjectRecords, PathsThatALineCantHoldComeBack) {
@@ -142,8 +147,9 @@ TEST(ObjectRecords, AFileOfThisVersionIsNotKeptTwice) {
     EXPECT_EQ(loaded.Computer.Files.Names(fake::SettingsFolder + "/Containers").size(), 1U);
 }
 
-const std::string OldPicture = "[Picture]\n[Locked]\n1\n[whatever]\n10\n[PicY]\n20,5\n[PicW]\n300\n[PicH]\n200\n"
-                               "[PicPath]\n/home/user/cat.jpg\n[Comment]\nTEMP\n[SlideShow]\nTEMP\n";
+const std::string OldPicture =
+    "[Picture]\n[Locked]\n1\n[whatever]\n10\n[PicY]\n20,5\n[PicW]\n300\n[PicH]\n200\n"
+    "[PicPath]\n/home/user/cat.jpg\n[Comment]\nTEMP\n[SlideShow]\nTEMP\n";
 
 TEST(ObjectRecords, PicturesOfTheOldFormatAreReadByPosition) {
     for (const char* version : {"106", "105", "1"}) {
@@ -181,8 +187,9 @@ TEST(ObjectRecords, PicturesOfAVersionInBetweenAreNotRead) {
 
 TEST(ObjectRecords, APictureWhoseFileIsGoneKeepsItsRecord) {
     Formats loaded;
-    const std::string picture = "[Picture]\n[Locked]\n0\n[PicX]\n1\n[PicY]\n2\n[PicW]\n3\n[PicH]\n4\n[PicPath]\n"
-                                "/gone.jpg\n[Comment]\nwas here\n[SlideShow]\n0\n[End Picture]\n";
+    const std::string picture =
+        "[Picture]\n[Locked]\n0\n[PicX]\n1\n[PicY]\n2\n[PicW]\n3\n[PicH]\n4\n[PicPath]\n"
+        "/gone.jpg\n[Comment]\nwas here\n[SlideShow]\n0\n[End Picture]\n";
     loaded.PutContainer(Head + picture);
     ASSERT_TRUE(loaded.Load());
     EXPECT_TRUE(loaded.Main.PicView(0).Missing);
@@ -192,7 +199,8 @@ TEST(ObjectRecords, APictureWhoseFileIsGoneKeepsItsRecord) {
 
 TEST(ObjectRecords, PicturesAreWrittenFromTheBottomOfTheStackUp) {
     Formats loaded;
-    loaded.PutSettings("108\n[Picture]\n[Comment]\na\n[End Picture]\n[Picture]\n[Comment]\nb\n[End Picture]\n");
+    loaded.PutSettings(
+        "108\n[Picture]\n[Comment]\na\n[End Picture]\n[Picture]\n[Comment]\nb\n[End Picture]\n");
     ASSERT_TRUE(loaded.Load());
     std::swap(loaded.Main.ZOrderList[0], loaded.Main.ZOrderList[1]);
     const auto text = loaded.WrittenSettings();
@@ -202,8 +210,8 @@ TEST(ObjectRecords, PicturesAreWrittenFromTheBottomOfTheStackUp) {
 TEST(ObjectRecords, DeadRowsAndOtherParentsAreNotWritten) {
     Formats loaded;
     loaded.PutSettings("108\n" + Link("[LinkType]\n2\n[LinkPath]\n/desk\n"));
-    loaded.PutContainer(Head + Link("[LinkType]\n2\n[LinkPath]\n/a\n") + Link("[LinkType]\n2\n[LinkPath]\n/dead\n") +
-                        Link("[LinkType]\n2\n[LinkPath]\n/b\n"));
+    loaded.PutContainer(Head + Link("[LinkType]\n2\n[LinkPath]\n/a\n") +
+                        Link("[LinkType]\n2\n[LinkPath]\n/dead\n") + Link("[LinkType]\n2\n[LinkPath]\n/b\n"));
     ASSERT_TRUE(loaded.Load());
     DeleteShortcut(loaded.Main, 2);
     const ObjectsByParent objects(loaded.Main);

@@ -225,7 +225,8 @@ TEST(SettingsFile, TheLaterOfTwoValuesCounts) {
 
 TEST(SettingsFile, KeysMayStandInAnyOrderAndUnknownOnesArePassedOver) {
     Formats loaded;
-    loaded.PutSettings("108\n[Opacity]\n100\n[Newer Key]\nits value\n[MaxContainers]\n7\n[opacity]\n1\n[Stretch]\n1\n");
+    loaded.PutSettings(
+        "108\n[Opacity]\n100\n[Newer Key]\nits value\n[MaxContainers]\n7\n[opacity]\n1\n[Stretch]\n1\n");
     ASSERT_TRUE(loaded.Load());
     EXPECT_EQ(loaded.Main.Settings.Opacity, 100);
     EXPECT_EQ(loaded.Main.Settings.MaxContainers, 7);
@@ -267,8 +268,9 @@ TEST(SettingsFile, FilesOfExistingUsersLoad) {
 
 TEST(SettingsFile, WhatTheEndOfTheLoadAppliesIsKeptUntilThen) {
     Formats loaded;
-    loaded.PutSettings("108\n[Hidden]\nTrue\n[WindowState]\n 2 \n[Maximized]\n-1\n[X]\n1,5\n[Y]\n2\n[W]\n3\n[H]\n4\n"
-                       "[SUSPEND_AUTO_COLLAPSE]\n0\n[LOCKED]\n1\n[Effect]\nFalse\n");
+    loaded.PutSettings(
+        "108\n[Hidden]\nTrue\n[WindowState]\n 2 \n[Maximized]\n-1\n[X]\n1,5\n[Y]\n2\n[W]\n3\n[H]\n4\n"
+        "[SUSPEND_AUTO_COLLAPSE]\n0\n[LOCKED]\n1\n[Effect]\nFalse\n");
     ASSERT_TRUE(loaded.Load());
     const DeferredSettings& stored = loaded.Deferred;
     EXPECT_EQ(stored.Hidden, "1");
@@ -333,7 +335,8 @@ TEST(SettingsFile, AFontThatIsNotThereBecomesTahoma) {
 
 TEST(SettingsFile, ValuesOutsideTheirRangeAreWrittenBackAsTheyWere) {
     Formats loaded;
-    loaded.PutSettings("108\n[Opacity]\n255\n[KeyboardHistoryCount]\n900\n[Font Size]\n500\n[AutoExpandDelay]\n7\n");
+    loaded.PutSettings(
+        "108\n[Opacity]\n255\n[KeyboardHistoryCount]\n900\n[Font Size]\n500\n[AutoExpandDelay]\n7\n");
     ASSERT_TRUE(loaded.Load());
     const auto text = loaded.WrittenSettings();
     EXPECT_EQ(ValueOf(text, "[Opacity]"), "255");
@@ -346,10 +349,11 @@ TEST(SettingsFile, DialogPlacesAndServersAreWrittenOnceTheyStand) {
     Formats loaded;
     EXPECT_EQ(ValueOf(loaded.WrittenSettings(), "[RSSViewerOnTop]"), "(none)");
     EXPECT_EQ(ValueOf(loaded.WrittenSettings(), "[LibraryServer]"), "(none)");
-    const std::string places = "[RSSViewerOnTop]\n0\n[RSSViewerX]\n1\n[RSSViewerY]\n2\n[RSSViewerW]\n3\n"
-                               "[RSSViewerH]\n4\n[RSSSearchX]\n0\n[RSSSearchY]\n6\n[ReminderDialogX]\n7.5\n"
-                               "[ReminderDialogY]\n8\n[ReminderDialogW]\n9\n[ReminderDialogH]\n10\n"
-                               "[LibraryServer]\nhttps://library.example\n[UpdateServer]\nhttps://update.example\n";
+    const std::string places =
+        "[RSSViewerOnTop]\n0\n[RSSViewerX]\n1\n[RSSViewerY]\n2\n[RSSViewerW]\n3\n"
+        "[RSSViewerH]\n4\n[RSSSearchX]\n0\n[RSSSearchY]\n6\n[ReminderDialogX]\n7.5\n"
+        "[ReminderDialogY]\n8\n[ReminderDialogW]\n9\n[ReminderDialogH]\n10\n"
+        "[LibraryServer]\nhttps://library.example\n[UpdateServer]\nhttps://update.example\n";
     loaded.PutSettings("108\n" + places);
     ASSERT_TRUE(loaded.Load());
     EXPECT_TRUE(loaded.WrittenSettings().ends_with("[ConShrinkH]\n950\n" + places));
@@ -357,8 +361,9 @@ TEST(SettingsFile, DialogPlacesAndServersAreWrittenOnceTheyStand) {
 
 TEST(SettingsFile, SubjectsAreRebuiltInFileOrderAndNumberedFromOne) {
     Formats loaded;
-    loaded.PutSettings("108\n[RSS Search3]\n space \n[RSS Search0]\nmusic\n[RSS Search20]\nlast\n[RSS Search21]\nno\n"
-                       "[RSS Search 1]\nno\n[RSS Searchx]\nno\n");
+    loaded.PutSettings(
+        "108\n[RSS Search3]\n space \n[RSS Search0]\nmusic\n[RSS Search20]\nlast\n[RSS Search21]\nno\n"
+        "[RSS Search 1]\nno\n[RSS Searchx]\nno\n");
     ASSERT_TRUE(loaded.Load());
     EXPECT_EQ(loaded.Main.Links.Subjects, (std::vector<std::string>{" space ", "music", "last"}));
     EXPECT_TRUE(loaded.WrittenSettings().ends_with(
@@ -367,8 +372,9 @@ TEST(SettingsFile, SubjectsAreRebuiltInFileOrderAndNumberedFromOne) {
 
 TEST(SettingsFile, RecentRowsAreReadByTheirNumber) {
     Formats loaded;
-    loaded.PutSettings("108\n[Recent 2]\nSecond\n 300 \n 400,5 \nContainerFrame\n[Recent 1]\nFirst\n1\n2\npicBack\n"
-                       "[Recent 10]\nTenth\n5\n6\npicBack\n");
+    loaded.PutSettings(
+        "108\n[Recent 2]\nSecond\n 300 \n 400,5 \nContainerFrame\n[Recent 1]\nFirst\n1\n2\npicBack\n"
+        "[Recent 10]\nTenth\n5\n6\npicBack\n");
     ASSERT_TRUE(loaded.Load());
     const auto& rows = loaded.Main.Links.RecentRows;
     ASSERT_EQ(rows.size(), 3U);
@@ -408,8 +414,9 @@ TEST(SettingsFile, MaxContainersBelowTheNumberOfFilesStopsTheLoadAtThatCount) {
     loaded.Computer.Questions.Answer(AnswerOk);
     EXPECT_FALSE(loaded.Load());
     ASSERT_EQ(loaded.Computer.Questions.Boxes.size(), 1U);
-    EXPECT_EQ(loaded.Computer.Questions.LastBox(),
-              "There is a maximum of 2 containers in the workspace. You can manually change it in the .ini file.");
+    EXPECT_EQ(
+        loaded.Computer.Questions.LastBox(),
+        "There is a maximum of 2 containers in the workspace. You can manually change it in the .ini file.");
     EXPECT_EQ(loaded.Computer.Questions.Boxes[0].Title, "Error");
     EXPECT_TRUE(loaded.Main.g_DontSave);
     EXPECT_EQ(loaded.Main.NextContainerIndex, 2);
@@ -463,14 +470,19 @@ TEST(SettingsFile, WhatWasReadIsWrittenBackUnchanged) {
     std::string changed;
     for (const auto& row : SettingsRows())
         if (row.Set && row.Write)
-            changed += std::string(row.Key) + "\n" + (row.Type == "text" ? "some text" : row.Type == "Boolean" ? "0" : "7") + "\n";
+            changed += std::string(row.Key) + "\n" +
+                       (row.Type == "text"      ? "some text"
+                        : row.Type == "Boolean" ? "0"
+                                                : "7") +
+                       "\n";
     loaded.PutSettings("108\n" + changed);
     loaded.Computer.Texts.Fonts.insert("some text");
     ASSERT_TRUE(loaded.Load());
     for (const auto& row : SettingsRows()) {
         if (!row.Set || !row.Write) continue;
-        EXPECT_EQ(ValueOf(loaded.WrittenSettings(), std::string(row.Key)),
-                  row.Type == "text" ? "some text" : row.Type == "Boolean" ? "0" : "7")
+        EXPECT_EQ(ValueOf(loaded.WrittenSettings(), std::string(row.Key)), row.Type == "text" ? "some text"
+                                                                           : row.Type == "Boolean" ? "0"
+                                                                                                   : "7")
             << row.Key;
     }
 }

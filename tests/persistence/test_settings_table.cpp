@@ -56,12 +56,13 @@ TEST(SettingsTable, LoadingTheDefaultsKeepsServersAndDialogPlaces) {
 TEST(SettingsTable, ColoursInTheTableAreTheDesignedOnes) {
     std::set<std::pair<std::string_view, int>> colours;
     for (const auto& row : SettingsRows())
-        for (const std::string_view key : {"[Background]", "[ContainerFor]", "[DockingColor]", "[ContainerTextBack]"})
+        for (const std::string_view key :
+             {"[Background]", "[ContainerFor]", "[DockingColor]", "[ContainerTextBack]"})
             if (row.Key == key) colours.insert({key, ReadWhole(row.Default).value_or(-1)});
     EXPECT_EQ(colours, (std::set<std::pair<std::string_view, int>>{{"[Background]", 0x1A1306},
-                                                                  {"[ContainerFor]", 0x290700},
-                                                                  {"[DockingColor]", 0x38290E},
-                                                                  {"[ContainerTextBack]", 0xE1FDFF}}));
+                                                                   {"[ContainerFor]", 0x290700},
+                                                                   {"[DockingColor]", 0x38290E},
+                                                                   {"[ContainerTextBack]", 0xE1FDFF}}));
 }
 
 TEST(SettingsTable, NoKeyStandsTwice) {
@@ -71,15 +72,15 @@ TEST(SettingsTable, NoKeyStandsTwice) {
 
 TEST(SettingsTable, EveryDefaultIsReadable) {
     for (const auto& row : SettingsRows())
-        if (!row.Default.empty()) EXPECT_TRUE(row.Readable(row.Default)) << row.Key;
+        EXPECT_TRUE(row.Default.empty() || row.Readable(row.Default)) << row.Key;
 }
 
 TEST(SettingsTable, TheDocumentationHoldsTheTable) {
     const auto page = std::filesystem::path(__FILE__).parent_path() / "../../docs/formats-settings.md";
     std::stringstream text;
     text << std::ifstream(page).rdbuf();
-    EXPECT_NE(text.str().find(SettingsTableText()), std::string::npos)
-        << "The page lacks this table:\n" << SettingsTableText();
+    EXPECT_NE(text.str().find(SettingsTableText()), std::string::npos) << "The page lacks this table:\n"
+                                                                       << SettingsTableText();
 }
 
 } // namespace

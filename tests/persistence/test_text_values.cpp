@@ -12,10 +12,11 @@ struct BooleanCase {
 
 TEST(TextValues, EveryFormOfATruthValueIsUnderstood) {
     const BooleanCase cases[] = {
-        {"1", true},      {"0", false},     {"-1", true},    {"True", true},          {"False", false},
-        {"TRUE", true},   {"false", false}, {" 1 ", true},   {" True\t", true},       {"2", true},
-        {"0.0", false},   {"-0", false},    {"0,5", true},   {"", std::nullopt},      {"yes", std::nullopt},
-        {"Truex", std::nullopt}, {"1 0", std::nullopt}, {"tru", std::nullopt},
+        {"1", true},           {"0", false},          {"-1", true},          {"True", true},
+        {"False", false},      {"TRUE", true},        {"false", false},      {" 1 ", true},
+        {" True\t", true},     {"2", true},           {"0.0", false},        {"-0", false},
+        {"0,5", true},         {"", std::nullopt},    {"yes", std::nullopt}, {"Truex", std::nullopt},
+        {"1 0", std::nullopt}, {"tru", std::nullopt},
     };
     for (const auto& row : cases) EXPECT_EQ(ReadBoolean(row.Text), row.Value) << '"' << row.Text << '"';
 }
@@ -27,16 +28,27 @@ struct NumberCase {
 
 TEST(TextValues, NumbersAreReadWhateverSignTheDecimalsHave) {
     const NumberCase cases[] = {
-        {"155", 155},         {" 155 ", 155},     {"-200", -200},        {"+7", 7},          {"1.5", 1.5},
-        {"1,5", 1.5},         {".5", 0.5},        {"-,25", -0.25},       {"1E3", 1000},      {"16777215", 16777215},
-        {"4294967296", 2147483647.0}, {"-1e300", -2147483648.0},  {"1e999", 2147483647.0}, {"1e-999", 0},
+        {"155", 155},
+        {" 155 ", 155},
+        {"-200", -200},
+        {"+7", 7},
+        {"1.5", 1.5},
+        {"1,5", 1.5},
+        {".5", 0.5},
+        {"-,25", -0.25},
+        {"1E3", 1000},
+        {"16777215", 16777215},
+        {"4294967296", 2147483647.0},
+        {"-1e300", -2147483648.0},
+        {"1e999", 2147483647.0},
+        {"1e-999", 0},
     };
     for (const auto& row : cases) EXPECT_EQ(ReadNumber(row.Text), row.Value) << '"' << row.Text << '"';
 }
 
 TEST(TextValues, WhatIsNoNumberIsRefused) {
-    for (const char* text : {"", " ", "-", "+", "+-1", "--1", "1x", "x1", "1.2.3", "1,234.5", "nan", "inf", "-inf",
-                             "0x10", "1 2", "1e", "."})
+    for (const char* text : {"", " ", "-", "+", "+-1", "--1", "1x", "x1", "1.2.3", "1,234.5", "nan", "inf",
+                             "-inf", "0x10", "1 2", "1e", "."})
         EXPECT_FALSE(ReadNumber(text)) << '"' << text << '"';
 }
 
@@ -47,8 +59,14 @@ struct WholeCase {
 
 TEST(TextValues, AFractionIsRoundedToTheNearestWholeNumber) {
     const WholeCase cases[] = {
-        {"100.4", 100}, {"100.6", 101}, {"100,6", 101},        {"-1.6", -2},
-        {"-0.4", 0},    {"99.5", 100},  {"99999999999", 2147483647}, {"-99999999999", -2147483647 - 1},
+        {"100.4", 100},
+        {"100.6", 101},
+        {"100,6", 101},
+        {"-1.6", -2},
+        {"-0.4", 0},
+        {"99.5", 100},
+        {"99999999999", 2147483647},
+        {"-99999999999", -2147483647 - 1},
     };
     for (const auto& row : cases) EXPECT_EQ(ReadWhole(row.Text), row.Value) << row.Text;
 }
@@ -82,8 +100,16 @@ struct WrittenCase {
 
 TEST(TextValues, NumbersAreWrittenWithAPointAndWithoutAnExponent) {
     const WrittenCase cases[] = {
-        {0, "0"},       {-0.0F, "0"},       {155, "155"},           {-200, "-200"},  {1.5F, "1.5"},
-        {0.1F, "0.1"},  {123456.5F, "123456.5"}, {1e9F, "1000000000"}, {1e-3F, "0.001"}, {1e20F, "2147483648"},
+        {0, "0"},
+        {-0.0F, "0"},
+        {155, "155"},
+        {-200, "-200"},
+        {1.5F, "1.5"},
+        {0.1F, "0.1"},
+        {123456.5F, "123456.5"},
+        {1e9F, "1000000000"},
+        {1e-3F, "0.001"},
+        {1e20F, "2147483648"},
     };
     for (const auto& row : cases) {
         std::string out;
@@ -111,7 +137,10 @@ std::string OneLine(std::string_view text) {
 TEST(TextValues, ControlCharactersInOneLineBecomeBlanks) {
     EXPECT_EQ(OneLine("a\r\nb\tc\x01"), "a  b c ");
     EXPECT_EQ(OneLine(std::string_view("a\0b", 3)), "a b");
-    EXPECT_EQ(OneLine("Gr\xC3\xB6\xC3\x9F" "e\n"), "Gr\xC3\xB6\xC3\x9F" "e ");
+    EXPECT_EQ(OneLine("Gr\xC3\xB6\xC3\x9F"
+                      "e\n"),
+              "Gr\xC3\xB6\xC3\x9F"
+              "e ");
     EXPECT_EQ(OneLine("nothing to do in this text"), "nothing to do in this text");
 }
 
@@ -126,14 +155,22 @@ struct Utf8Case {
 
 TEST(TextValues, MalformedUtf8IsFound) {
     const Utf8Case cases[] = {
-        {"", true},          {"plain text of more than eight bytes", true},
-        {"\xC3\xA4", true},  {"\xE2\x82\xAC", true},
-        {"\xF0\x9F\x98\x80", true}, {"\xF4\x8F\xBF\xBF", true},
-        {"\xC3", false},     {"\xE2\x82", false},
-        {"\x80", false},     {"\xC0\xAF", false},
-        {"\xE0\x80\x80", false}, {"\xED\xA0\x80", false},
-        {"\xF0\x80\x80\x80", false}, {"\xF4\x90\x80\x80", false},
-        {"\xFF", false},     {"12345678\xE9", false},
+        {"", true},
+        {"plain text of more than eight bytes", true},
+        {"\xC3\xA4", true},
+        {"\xE2\x82\xAC", true},
+        {"\xF0\x9F\x98\x80", true},
+        {"\xF4\x8F\xBF\xBF", true},
+        {"\xC3", false},
+        {"\xE2\x82", false},
+        {"\x80", false},
+        {"\xC0\xAF", false},
+        {"\xE0\x80\x80", false},
+        {"\xED\xA0\x80", false},
+        {"\xF0\x80\x80\x80", false},
+        {"\xF4\x90\x80\x80", false},
+        {"\xFF", false},
+        {"12345678\xE9", false},
     };
     for (const auto& row : cases) EXPECT_EQ(IsUtf8(row.Text), row.Valid) << row.Text;
 }
@@ -168,8 +205,9 @@ TEST(TextValues, PathsThatALineCantHoldComeBackAsTheyWere) {
 }
 
 TEST(TextValues, AnAddressThatWasTypedStaysAsItWasTyped) {
-    for (const char* text : {"file:///home/user/plain", "file://server/share", "file:///bad%2", "file:///bad%zz",
-                             "file:///a%00b", "http://example.org/%20", "C:\\Windows\\calc.exe "})
+    for (const char* text :
+         {"file:///home/user/plain", "file://server/share", "file:///bad%2", "file:///bad%zz",
+          "file:///a%00b", "http://example.org/%20", "C:\\Windows\\calc.exe "})
         EXPECT_EQ(ReadPath(text), text);
 }
 

@@ -30,7 +30,8 @@ class SecondStart {
 public:
     SecondStart(const InstanceOptions& options, Summons word) : pid_(::fork()) {
         if (pid_ != 0) return;
-        ::close_range(STDERR_FILENO + 1, ~0U, 0); // it is no child of the first copy and has none of its files
+        ::close_range(STDERR_FILENO + 1, ~0U,
+                      0); // it is no child of the first copy and has none of its files
         InstancePosix second(options);
         const auto claim = second.ClaimOrCall(word);
         ::_exit(claim ? static_cast<int>(claim.Value()) : ClaimFailed);

@@ -195,6 +195,7 @@ TEST(PlacesOfSystem, AnImageFileCountsOnlyWhenThisProgramCameOutOfIt) {
         const VariableGuard mount("APPDIR", "/tmp/.mount_other");
         EXPECT_EQ(PlacesSourcesOfSystem().AppImage, "");
         EXPECT_EQ(PlacesSourcesOfSystem().Executable, executable);
+        EXPECT_EQ(ExecutableFolder(), executable.parent_path());
     }
     const VariableGuard mount("APPDIR", executable.parent_path().c_str());
     EXPECT_EQ(PlacesSourcesOfSystem().AppImage, "/media/stick/Other.AppImage");

@@ -84,7 +84,8 @@ QImage DecodeWithin(const QString& path, int side) {
     if (several) {
         const QImage best = BestOfSeveral(reader, side);
         if (best.isNull()) return {};
-        return ForScreen(best.scaled(Within(best.size(), side), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        return ForScreen(
+            best.scaled(Within(best.size(), side), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     QSize size = reader.size();
     if (!Sensible(size)) return {};

@@ -27,7 +27,8 @@ QFont MakeFont(const FontSpec& spec) {
 } // namespace
 
 const FontEntry& Fonts::Get(const FontSpec& spec) const {
-    Key key{spec.Name, spec.Points, (spec.Bold ? 1 : 0) | (spec.Italic ? 2 : 0) | (spec.StrikeThrough ? 4 : 0)};
+    Key key{spec.Name, spec.Points,
+            (spec.Bold ? 1 : 0) | (spec.Italic ? 2 : 0) | (spec.StrikeThrough ? 4 : 0)};
     const auto found = made_.find(key);
     if (found != made_.end()) return found->second;
     const QFont font = MakeFont(spec);

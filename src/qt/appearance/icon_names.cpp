@@ -30,8 +30,8 @@ IconAnswer AnswerOf(GIcon* icon, int side) {
 
 IconAnswer OfAddress(const std::string& address, int side) {
     const Owned<char> scheme(g_uri_parse_scheme(address.c_str()));
-    const OwnedObject<GAppInfo> program(
-        scheme ? g_app_info_get_default_for_uri_scheme(scheme.get()) : nullptr);
+    const OwnedObject<GAppInfo> program(scheme ? g_app_info_get_default_for_uri_scheme(scheme.get())
+                                               : nullptr);
     IconAnswer answer;
     if (program) answer = AnswerOf(g_app_info_get_icon(program.get()), side);
     for (const char* name : {"internet-web-browser", "text-html"}) answer.Names.emplace_back(name);
@@ -83,12 +83,18 @@ bool IsEntry(const std::string& path) {
 
 IconAnswer FindIcon(const IconSource& source, int side) {
     IconAnswer answer;
-    if (source.IsImage) answer.Image = DecodeWithin(Text(source.File), side);
-    else if (source.File.empty()) answer = {};
-    else if (IsAddress(source.File)) answer = OfAddress(source.File, side);
-    else if (IsOnRemoteMount(source.File)) answer = ByName(source.File);
-    else if (IsEntry(source.File)) answer = OfEntry(source.File, side);
-    else answer = OfFile(source.File, side);
+    if (source.IsImage)
+        answer.Image = DecodeWithin(Text(source.File), side);
+    else if (source.File.empty())
+        answer = {};
+    else if (IsAddress(source.File))
+        answer = OfAddress(source.File, side);
+    else if (IsOnRemoteMount(source.File))
+        answer = ByName(source.File);
+    else if (IsEntry(source.File))
+        answer = OfEntry(source.File, side);
+    else
+        answer = OfFile(source.File, side);
     if (!source.ThemeName.empty()) answer.Names.insert(answer.Names.begin(), source.ThemeName);
     return answer;
 }

@@ -34,8 +34,8 @@ bool IsInstalled(const QString& theme) {
     });
 }
 
-// Pixels. Only these are asked for: below, and at odd sizes that are filled from below, many themes draw thin dark
-// lines for the light ground of a toolbar.
+// Pixels. Only these are asked for: below, and at odd sizes that are filled from below, many themes draw thin
+// dark lines for the light ground of a toolbar.
 constexpr int coloredSizes[] = {32, 64, 128, 256};
 
 int ColoredSize(int side) {
@@ -67,10 +67,12 @@ void IconTheme::Choose() {
     chosen_ = true;
     if (QIcon::hasThemeIcon(probe)) return;
     const QString given = QIcon::themeName();
-    if (Works(NamedByDesktop(QStringLiteral("gtk-3.0/settings.ini"), QStringLiteral("Settings/gtk-icon-theme-name"))))
+    if (Works(NamedByDesktop(QStringLiteral("gtk-3.0/settings.ini"),
+                             QStringLiteral("Settings/gtk-icon-theme-name"))))
         return;
     if (Works(NamedByDesktop(QStringLiteral("kdeglobals"), QStringLiteral("Icons/Theme")))) return;
-    for (const char* theme : {"breeze", "Papirus", "Adwaita", "Yaru", "Mint-Y", "elementary-xfce", "oxygen", "gnome"})
+    for (const char* theme :
+         {"breeze", "Papirus", "Adwaita", "Yaru", "Mint-Y", "elementary-xfce", "oxygen", "gnome"})
         if (IsInstalled(QString::fromLatin1(theme)) && Works(QString::fromLatin1(theme))) return;
     QIcon::setThemeName(given);
 }

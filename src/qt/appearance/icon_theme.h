@@ -1,5 +1,5 @@
-// IconTheme: the desktop's icon theme, or, on a desktop that names none, the best one that is installed. Asked
-// on the one thread only, and never before the first picture is on the screen: a theme is slow to open.
+// IconTheme: the desktop's icon theme, or, on a desktop that names none, the best one that is installed.
+// Asked on the one thread only, and never before the first picture is on the screen: a theme is slow to open.
 #pragma once
 
 #include <QImage>

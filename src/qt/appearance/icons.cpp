@@ -1,6 +1,7 @@
 #include "qt/appearance/icons.h"
 
 #include "qt/core/convert.h"
+#include "qt/system/memory.h"
 
 #include <QElapsedTimer>
 #include <QTimerEvent>
@@ -26,8 +27,10 @@ QImage Icons::Get(const IconSource& source, int side, const Spot& spot) {
         entry = std::make_shared<Entry>();
         entry->Source = source;
         entry->Side = side;
-        if (begun_) Fetch(entry);
-        else early_.push_back(entry);
+        if (begun_)
+            Fetch(entry);
+        else
+            early_.push_back(entry);
     }
     if (entry->Pending) entry->Waiting.Add(spot);
     return entry->Image;
@@ -62,7 +65,9 @@ void Icons::timerEvent(QTimerEvent* event) {
         Settle(answers_.front());
         answers_.pop_front();
     }
-    if (answers_.empty()) turn_.stop();
+    if (!answers_.empty()) return;
+    turn_.stop();
+    worker_.Run(&GiveMemoryBack, [] {});
 }
 
 void Icons::Settle(const Answer& answer) {

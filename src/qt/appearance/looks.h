@@ -9,7 +9,8 @@
 namespace quill {
 
 struct Looks {
-    Looks(const QString& symbolFolder, Worker& worker) : Symbols(symbolFolder), Icons(worker), Pictures(worker) {}
+    Looks(const QString& symbolFolder, Worker& worker)
+        : Symbols(symbolFolder), Icons(worker), Pictures(worker) {}
 
     quill::Fonts Fonts;
     quill::Symbols Symbols;

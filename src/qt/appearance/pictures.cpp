@@ -14,7 +14,8 @@ constexpr std::size_t sizesKept = 2; // of one file: it may be shown twice, at d
 QImage Pictures::Get(const QString& path, QSize size, const Spot& spot) {
     auto& entry = entries_[path];
     if (!entry) entry = std::make_shared<Entry>();
-    const auto exact = std::ranges::find(entry->Sizes, size, [](const QImage& image) { return image.size(); });
+    const auto exact =
+        std::ranges::find(entry->Sizes, size, [](const QImage& image) { return image.size(); });
     if (exact != entry->Sizes.end()) return *exact;
     if (entry->Unreadable || size.isEmpty()) return {};
     entry->Waiting.Add(spot);

@@ -19,7 +19,8 @@ class Pictures {
 public:
     explicit Pictures(Worker& worker) : worker_(worker) {}
 
-    // The best that is there; null while nothing is, or when the file can't be read. The size is device pixels.
+    // The best that is there; null while nothing is, or when the file can't be read. The size is device
+    // pixels.
     QImage Get(const QString& path, QSize size, const Spot& spot);
     void Forget(const QString& path);
     void Begin(); // the first picture of the workspace is on the screen; nothing is read before

@@ -47,8 +47,8 @@ void DrawHalo(QPainter& painter, const TextBlock& block, QPointF corner, Color c
 } // namespace
 
 QtCanvas::QtCanvas(QPainter& painter, QWidget& surface, const QRegion& exposed, Looks& looks)
-    : painter_(painter), surface_(surface), exposed_(exposed), looks_(looks), toDevice_(painter.deviceTransform()),
-      fromDevice_(toDevice_.inverted()), scale_(toDevice_.m11()) {
+    : painter_(painter), surface_(surface), exposed_(exposed), looks_(looks),
+      toDevice_(painter.deviceTransform()), fromDevice_(toDevice_.inverted()), scale_(toDevice_.m11()) {
     painter_.setRenderHint(QPainter::SmoothPixmapTransform);
 }
 

@@ -9,7 +9,8 @@ namespace quill {
 Size QtImages::PictureSize(const std::string& path) const {
     const QSize size = NaturalSize(Text(path));
     if (size.isEmpty()) return {};
-    return {static_cast<float>(size.width()) * TwipsPerPixel, static_cast<float>(size.height()) * TwipsPerPixel};
+    return {static_cast<float>(size.width()) * TwipsPerPixel,
+            static_cast<float>(size.height()) * TwipsPerPixel};
 }
 
 void QtImages::Forget(const std::string& path) {

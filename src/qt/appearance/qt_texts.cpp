@@ -19,7 +19,8 @@ Size QtTexts::MeasureText(const FontSpec& font, std::string_view text, float wra
     shape.Wrap = wrapWidth > 0;
     if (shape.Wrap) shape.Width = wrapWidth / TwipsPerPixel;
     const TextBlock block(display_.Get().Looks.Fonts.Get(font), Text(text), shape);
-    return {static_cast<float>(block.Width()) * TwipsPerPixel, static_cast<float>(block.Height()) * TwipsPerPixel};
+    return {static_cast<float>(block.Width()) * TwipsPerPixel,
+            static_cast<float>(block.Height()) * TwipsPerPixel};
 }
 
 } // namespace quill

@@ -35,8 +35,10 @@ void TextBlock::Draw(QPainter& painter, QPointF corner) const {
 }
 
 void TextBlock::AddParagraph(const FontEntry& font, const QString& text, const BlockShape& shape) {
-    if (shape.Wrap) AddWrapped(font, text, shape);
-    else AddWholeLine(font, text, shape);
+    if (shape.Wrap)
+        AddWrapped(font, text, shape);
+    else
+        AddWholeLine(font, text, shape);
 }
 
 void TextBlock::AddWholeLine(const FontEntry& font, const QString& text, const BlockShape& shape) {

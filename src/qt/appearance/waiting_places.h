@@ -1,5 +1,5 @@
-// WaitingPlaces: the places on the screen that wait for something to be fetched, and are painted again when it
-// has come.
+// WaitingPlaces: the places on the screen that wait for something to be fetched, and are painted again when
+// it has come.
 #pragma once
 
 #include <QPointer>

@@ -6,7 +6,8 @@ namespace quill {
 
 Display::Display(ToolkitArguments& arguments, const Attachment& attached, const std::string& dataFolder,
                  Worker& worker)
-    : Application(arguments.Count, arguments.List), Looks(Text(dataFolder) + QStringLiteral("/symbols"), worker),
+    : Application(arguments.Count, arguments.List),
+      Looks(Text(dataFolder) + QStringLiteral("/symbols"), worker),
       Stage(attached, Looks, dataFolder + "/../icons/hicolor") {}
 
 } // namespace quill

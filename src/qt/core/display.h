@@ -1,5 +1,5 @@
-// Display: all that exists only while there is a connection to the desktop. Made by Session::OpenDisplay, so that
-// a start which needs no window pays for none of it.
+// Display: all that exists only while there is a connection to the desktop. Made by Session::OpenDisplay, so
+// that a start which needs no window pays for none of it.
 #pragma once
 
 #include "qt/appearance/looks.h"
@@ -15,7 +15,8 @@ namespace quill {
 
 // The toolkit's own view of the command line: the program's name alone, so that it reads no switch of ours.
 struct ToolkitArguments {
-    explicit ToolkitArguments(std::string program) : Program(std::move(program)), List{Program.data(), nullptr} {}
+    explicit ToolkitArguments(std::string program)
+        : Program(std::move(program)), List{Program.data(), nullptr} {}
     ToolkitArguments(const ToolkitArguments&) = delete;
     ToolkitArguments& operator=(const ToolkitArguments&) = delete;
 
@@ -25,7 +26,8 @@ struct ToolkitArguments {
 };
 
 struct Display {
-    Display(ToolkitArguments& arguments, const Attachment& attached, const std::string& dataFolder, Worker& worker);
+    Display(ToolkitArguments& arguments, const Attachment& attached, const std::string& dataFolder,
+            Worker& worker);
 
     QApplication Application;
     quill::Looks Looks;

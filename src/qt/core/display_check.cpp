@@ -27,16 +27,20 @@ bool Answers() {
 
 Status CheckDisplay() {
     const auto kind = Variable("QT_QPA_PLATFORM");
-    if (!kind.empty() && !kind.starts_with("xcb") && !kind.starts_with("wayland")) return {}; // asked for by name
+    if (!kind.empty() && !kind.starts_with("xcb") && !kind.starts_with("wayland"))
+        return {}; // asked for by name
     const auto display = Variable("DISPLAY");
     if (display.empty() && !Variable("WAYLAND_DISPLAY").empty())
-        return Failure{Reason::NotFound, "this Wayland session runs no X server; install Xwayland and log in again."};
+        return Failure{Reason::NotFound,
+                       "this Wayland session runs no X server; install Xwayland and log in again."};
     if (display.empty())
-        return Failure{Reason::NotFound, "there is no display to open a window on; start it from a desktop, or set "
-                                         "DISPLAY."};
+        return Failure{Reason::NotFound,
+                       "there is no display to open a window on; start it from a desktop, or set "
+                       "DISPLAY."};
     if (!Answers())
-        return Failure{Reason::NotFound, "the display " + display + " does not answer; check DISPLAY, and that you "
-                                         "may use it."};
+        return Failure{Reason::NotFound, "the display " + display +
+                                             " does not answer; check DISPLAY, and that you "
+                                             "may use it."};
     return {};
 }
 

@@ -8,8 +8,8 @@ namespace {
 
 constexpr int endings[] = {SIGTERM, SIGINT, SIGHUP};
 
-// A signal handler is given nothing but a number, so the way out of it can stand nowhere else. Signals are not
-// blocked and read instead, because every program that is started from here would inherit that.
+// A signal handler is given nothing but a number, so the way out of it can stand nowhere else. Signals are
+// not blocked and read instead, because every program that is started from here would inherit that.
 volatile std::sig_atomic_t wayOut = -1;
 
 void Heard(int) {
@@ -30,7 +30,8 @@ void Listen(void (*handler)(int)) {
 
 void Drain(int fd) {
     char words[16];
-    while (read(fd, words, sizeof words) > 0) {}
+    while (read(fd, words, sizeof words) > 0) {
+    }
 }
 
 } // namespace
@@ -42,10 +43,11 @@ EndSignals::EndSignals(std::function<void()> told) {
     say_ = Descriptor(ends[1]);
     wayOut = ends[1];
     notifier_ = std::make_unique<QSocketNotifier>(ends[0], QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this, told = std::move(told)] {
-        Drain(hear_.Get());
-        told();
-    });
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
+                     [this, told = std::move(told)] {
+                         Drain(hear_.Get());
+                         told();
+                     });
     Listen(&Heard);
 }
 

@@ -1,5 +1,5 @@
-// EndSignals: the system's wish that the program ends (SIGTERM, SIGINT, SIGHUP), brought to the event loop. Until
-// the loop runs a signal waits; a second one while the first is being followed changes nothing.
+// EndSignals: the system's wish that the program ends (SIGTERM, SIGINT, SIGHUP), brought to the event loop.
+// Until the loop runs a signal waits; a second one while the first is being followed changes nothing.
 #pragma once
 
 #include "posix/descriptor.h"

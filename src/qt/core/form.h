@@ -1,6 +1,6 @@
-// Form: the one base of every dialog. A form edits a plain value: it is filled from the value, and writes back
-// only when it is accepted, so that Cancel is free. It has its buttons at the foot, one of them the default one,
-// and lies above the workspace. Texts are plain.
+// Form: the one base of every dialog. A form edits a plain value: it is filled from the value, and writes
+// back only when it is accepted, so that Cancel is free. It has its buttons at the foot, one of them the
+// default one, and lies above the workspace. Texts are plain.
 #pragma once
 
 #include <QDialog>

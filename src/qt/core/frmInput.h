@@ -1,5 +1,5 @@
-// frmInput: the one-line input of the whole program, with a second way to go on and a check box where they are
-// asked for.
+// frmInput: the one-line input of the whole program, with a second way to go on and a check box where they
+// are asked for.
 #pragma once
 
 #include "platform/questions.h"

@@ -9,8 +9,10 @@ namespace quill {
 namespace {
 
 void Cancel(QWidget& question) {
-    if (auto* dialog = qobject_cast<QDialog*>(&question)) dialog->done(QDialog::Rejected);
-    else question.close();
+    if (auto* dialog = qobject_cast<QDialog*>(&question))
+        dialog->done(QDialog::Rejected);
+    else
+        question.close();
 }
 
 } // namespace
@@ -23,7 +25,8 @@ void OpenQuestions::CancelAll() {
 
 OpenQuestions::Entry::Entry(OpenQuestions& questions, QWidget& widget) : questions_(questions) {
     questions_.open_.emplace_back(&widget);
-    if (questions_.attached_.Main != nullptr) pause_ = std::make_unique<DialogPause>(*questions_.attached_.Main);
+    if (questions_.attached_.Main != nullptr)
+        pause_ = std::make_unique<DialogPause>(*questions_.attached_.Main);
 }
 
 OpenQuestions::Entry::~Entry() {

@@ -1,5 +1,6 @@
-// OpenQuestions: the boxes, dialogs and menus that wait for a person at this moment, the innermost last. While one
-// is open nothing docks. When the program is told to end they are all cancelled, and only then the exit begins.
+// OpenQuestions: the boxes, dialogs and menus that wait for a person at this moment, the innermost last.
+// While one is open nothing docks. When the program is told to end they are all cancelled, and only then the
+// exit begins.
 #pragma once
 
 #include "qt/core/attachment.h"

@@ -9,7 +9,8 @@ constexpr int longLine = 60; // characters; longer ones are broken into several 
 
 bool HasLongLine(const QString& text) {
     const auto lines = text.split(QLatin1Char('\n'));
-    return std::any_of(lines.begin(), lines.end(), [](const QString& line) { return line.size() > longLine; });
+    return std::any_of(lines.begin(), lines.end(),
+                       [](const QString& line) { return line.size() > longLine; });
 }
 
 } // namespace

@@ -14,7 +14,7 @@
 namespace quill {
 namespace {
 
-constexpr int coarseFrom = 1000;                // milliseconds
+constexpr int coarseFrom = 1000; // milliseconds
 constexpr long frameNanoseconds = 1'000'000'000 / 50;
 
 Descriptor MakeBeat() {
@@ -62,7 +62,8 @@ private:
 
 class QtClock::Frames {
 public:
-    explicit Frames(const Attachment& attached) : beat_(MakeBeat()), notifier_(beat_.Get(), QSocketNotifier::Read) {
+    explicit Frames(const Attachment& attached)
+        : beat_(MakeBeat()), notifier_(beat_.Get(), QSocketNotifier::Read) {
         QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this, &attached] {
             std::uint64_t beats = 0;
             const bool due = read(beat_.Get(), &beats, sizeof beats) > 0;

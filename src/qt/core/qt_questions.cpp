@@ -16,11 +16,16 @@ constexpr int iconFlags = 16 | 32 | 64;
 
 QMessageBox::Icon IconOf(int flags) {
     switch (flags & iconFlags) {
-    case BoxCritical: return QMessageBox::Critical;
-    case BoxQuestion: return QMessageBox::Question;
-    case BoxWarning: return QMessageBox::Warning;
-    case BoxInformation: return QMessageBox::Information;
-    default: return QMessageBox::NoIcon;
+    case BoxCritical:
+        return QMessageBox::Critical;
+    case BoxQuestion:
+        return QMessageBox::Question;
+    case BoxWarning:
+        return QMessageBox::Warning;
+    case BoxInformation:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
     }
 }
 

@@ -6,6 +6,7 @@
 #include "posix/instance_posix.h"
 #include "qt/core/display_check.h"
 #include "qt/dock/x11.h"
+#include "qt/system/memory.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -38,6 +39,7 @@ QtSession::~QtSession() {
 Status QtSession::OpenDisplay() {
     if (parts_.Display.It) return {};
     if (auto there = CheckDisplay(); !there) return there;
+    UseOneHeap();
     ChoosePlatform();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QGuiApplication::setDesktopFileName(QString::fromLatin1(applicationName));
@@ -53,9 +55,12 @@ void QtSession::Attach(frmMain& main) {
     parts_.Attached.Main = &main;
     main.Marks.Wake = [&stage] { stage.Wake(); };
     signals_ = std::make_unique<EndSignals>([this] { EndWished(); });
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &stage, [this](QSessionManager&) { EndWished(); });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &stage,
+                     [this](QSessionManager&) { EndWished(); });
     parts_.Questions.AllClosed = [this] {
-        if (endWished_) QMetaObject::invokeMethod(&parts_.Display.Get().Stage, [this] { EndNow(); }, Qt::QueuedConnection);
+        if (endWished_)
+            QMetaObject::invokeMethod(
+                &parts_.Display.Get().Stage, [this] { EndNow(); }, Qt::QueuedConnection);
     };
     WatchInstance();
     WatchScreens();

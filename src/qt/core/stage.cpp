@@ -32,7 +32,8 @@ bool IsLiveSurface(const frmMain& Main, SurfaceId id) {
 // The workspace shows at the round corners of a container, and between two pixels at its edges.
 QRegion SolidPart(const QRect& place) {
     constexpr int corner = 12, edge = 1; // pixels
-    return QRegion(place.adjusted(corner, edge, -corner, -edge)) + place.adjusted(edge, corner, -edge, -corner);
+    return QRegion(place.adjusted(corner, edge, -corner, -edge)) +
+           place.adjusted(edge, corner, -edge, -corner);
 }
 
 // The order of a parent's children is their stacking, the last on top.

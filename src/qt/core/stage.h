@@ -1,5 +1,5 @@
-// Stage: all that is on the screen, the widgets of windows and surfaces. It takes the marks of the logic once a
-// turn of the event loop and makes the screen what the tables say; nothing else writes to a widget.
+// Stage: all that is on the screen, the widgets of windows and surfaces. It takes the marks of the logic once
+// a turn of the event loop and makes the screen what the tables say; nothing else writes to a widget.
 #pragma once
 
 #include "core/surfaces.h"

@@ -24,10 +24,14 @@ constexpr int wheelNotch = 120; // eighths of a degree
 
 MouseButton ButtonOf(Qt::MouseButton button) {
     switch (button) {
-    case Qt::LeftButton: return MouseButton::Left;
-    case Qt::MiddleButton: return MouseButton::Middle;
-    case Qt::RightButton: return MouseButton::Right;
-    default: return MouseButton::None;
+    case Qt::LeftButton:
+        return MouseButton::Left;
+    case Qt::MiddleButton:
+        return MouseButton::Middle;
+    case Qt::RightButton:
+        return MouseButton::Right;
+    default:
+        return MouseButton::None;
     }
 }
 
@@ -41,23 +45,31 @@ Qt::MouseButton HeldButton(const QMouseEvent& event) {
 Qt::CursorShape ShapeOfEdges(int edges) {
     switch (edges) {
     case EdgeLeft:
-    case EdgeRight: return Qt::SizeHorCursor;
+    case EdgeRight:
+        return Qt::SizeHorCursor;
     case EdgeTop:
-    case EdgeBottom: return Qt::SizeVerCursor;
+    case EdgeBottom:
+        return Qt::SizeVerCursor;
     case EdgeLeft | EdgeTop:
-    case EdgeRight | EdgeBottom: return Qt::SizeFDiagCursor;
+    case EdgeRight | EdgeBottom:
+        return Qt::SizeFDiagCursor;
     case EdgeRight | EdgeTop:
-    case EdgeLeft | EdgeBottom: return Qt::SizeBDiagCursor;
-    default: return Qt::ArrowCursor;
+    case EdgeLeft | EdgeBottom:
+        return Qt::SizeBDiagCursor;
+    default:
+        return Qt::ArrowCursor;
     }
 }
 
 Qt::CursorShape ShapeOfElement(ElementKind kind) {
     switch (kind) {
     case ElementKind::ResizeSymbol:
-    case ElementKind::PictureGrip: return Qt::SizeFDiagCursor;
-    case ElementKind::ContainerNote: return Qt::IBeamCursor;
-    default: return Qt::ArrowCursor;
+    case ElementKind::PictureGrip:
+        return Qt::SizeFDiagCursor;
+    case ElementKind::ContainerNote:
+        return Qt::IBeamCursor;
+    default:
+        return Qt::ArrowCursor;
     }
 }
 
@@ -169,7 +181,8 @@ void SurfaceWidget::ShowPointer(Point at) {
 void SurfaceWidget::OpenNoteAt(Point at, const QMouseEvent& event) {
     if (!Alive() || id_.Kind != SurfaceKind::Container) return;
     const ElementId hit = ElementAt(*context_.Attached.Main, id_, at);
-    if (hit.Kind == ElementKind::ContainerNote) context_.Notes.Open(*this, hit.Index, event.position().toPoint());
+    if (hit.Kind == ElementKind::ContainerNote)
+        context_.Notes.Open(*this, hit.Index, event.position().toPoint());
 }
 
 } // namespace quill

@@ -48,7 +48,8 @@ void MainWidget::paintEvent(QPaintEvent* event) {
 }
 
 void MainWidget::keyPressEvent(QKeyEvent* event) {
-    const bool used = attached_.Alive() && Form_KeyDown(*attached_.Main, KeyOf(*event, TypingInto::Workspace));
+    const bool used =
+        attached_.Alive() && Form_KeyDown(*attached_.Main, KeyOf(*event, TypingInto::Workspace));
     event->setAccepted(used);
 }
 

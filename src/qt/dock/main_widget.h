@@ -1,5 +1,5 @@
-// MainWidget: the widget of frmMain. It shows its frame around picBack and passes on what happens to the window
-// as a whole: keys, closing, places that somebody else gave it.
+// MainWidget: the widget of frmMain. It shows its frame around picBack and passes on what happens to the
+// window as a whole: keys, closing, places that somebody else gave it.
 #pragma once
 
 #include "qt/core/attachment.h"

@@ -14,7 +14,8 @@
 namespace quill {
 namespace {
 
-constexpr int leastWidth = 160, leastHeight = 100; // pixels: the title row with its buttons, and something below
+constexpr int leastWidth = 160,
+              leastHeight = 100; // pixels: the title row with its buttons, and something below
 
 bool HasButton() {
     return QGuiApplication::mouseButtons() != Qt::NoButton;

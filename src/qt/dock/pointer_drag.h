@@ -1,5 +1,5 @@
-// PointerDrag: moving and sizing a window with the pointer, from a press to the release. It watches the events of
-// the whole program meanwhile and asks nobody in a loop.
+// PointerDrag: moving and sizing a window with the pointer, from a press to the release. It watches the
+// events of the whole program meanwhile and asks nobody in a loop.
 #pragma once
 
 #include <QObject>

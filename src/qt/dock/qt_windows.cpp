@@ -25,8 +25,10 @@ Qt::WindowStates StatesOf(WindowState state) {
 } // namespace
 
 void QtWindows::Place(WindowId window, const Rect& place) {
-    if (window == MainWindow) display_.Get().Stage.Main().PlaceWindow(PixelRect(place));
-    else if (QWidget* widget = Widget(window)) widget->setGeometry(PixelRect(place));
+    if (window == MainWindow)
+        display_.Get().Stage.Main().PlaceWindow(PixelRect(place));
+    else if (QWidget* widget = Widget(window))
+        widget->setGeometry(PixelRect(place));
 }
 
 void QtWindows::Show(WindowId window, Activate activate) {

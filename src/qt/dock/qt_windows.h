@@ -1,5 +1,5 @@
-// QtWindows: the window port over the stage's widgets. What native kind of window stands behind them is told in
-// native_window.h alone.
+// QtWindows: the window port over the stage's widgets. What native kind of window stands behind them is told
+// in native_window.h alone.
 #pragma once
 
 #include "platform/windows.h"
@@ -10,7 +10,8 @@ namespace quill {
 
 class QtWindows : public Windows {
 public:
-    QtWindows(const Attachment& attached, const DisplayHolder& display) : attached_(attached), display_(display) {}
+    QtWindows(const Attachment& attached, const DisplayHolder& display)
+        : attached_(attached), display_(display) {}
 
     void Place(WindowId window, const Rect& place) override;
     void Show(WindowId window, Activate activate) override;

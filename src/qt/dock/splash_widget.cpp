@@ -11,12 +11,12 @@
 namespace quill {
 
 SplashWidget::SplashWidget(const Attachment& attached, Looks& looks)
-    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint), attached_(attached),
-      looks_(looks) {
+    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      attached_(attached), looks_(looks) {
     setObjectName(QStringLiteral("frmSplash"));
     setWindowTitle(QString::fromLatin1(ProgramName));
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_TranslucentBackground); // its corners are round
 }
 
 void SplashWidget::paintEvent(QPaintEvent*) {

@@ -69,7 +69,8 @@ QRect WorkAreaOfScreen(const QScreen& screen) {
     const qreal ratio = screen.devicePixelRatio();
     const auto scaled = [&](int from, int to) { return static_cast<int>(std::lround((to - from) / ratio)); };
     return {screen.geometry().x() + scaled(device.x(), rest.x()),
-            screen.geometry().y() + scaled(device.y(), rest.y()), scaled(0, rest.width()), scaled(0, rest.height())};
+            screen.geometry().y() + scaled(device.y(), rest.y()), scaled(0, rest.width()),
+            scaled(0, rest.height())};
 }
 
 } // namespace quill

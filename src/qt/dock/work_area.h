@@ -1,5 +1,5 @@
-// Work areas: what panels leave of each monitor, in device-independent pixels. With one monitor the toolkit knows
-// it; with several it does not, and the windows are asked for the room that they keep free.
+// Work areas: what panels leave of each monitor, in device-independent pixels. With one monitor the toolkit
+// knows it; with several it does not, and the windows are asked for the room that they keep free.
 #pragma once
 
 #include <QRect>

@@ -18,7 +18,8 @@ struct NoteView;
 class NoteBox : public QPlainTextEdit {
 public:
     // left is called when the focus has gone to another place in the window for good.
-    NoteBox(int index, const Attachment& attached, const Fonts& fonts, std::function<void()> left, QWidget* parent);
+    NoteBox(int index, const Attachment& attached, const Fonts& fonts, std::function<void()> left,
+            QWidget* parent);
 
     int Index() const { return index_; }
     void TakeOver(const NoteView& note); // text, if its revision differs, and looks

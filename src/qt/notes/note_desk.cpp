@@ -64,7 +64,8 @@ void NoteDesk::Follow(const std::function<QWidget*(int)>& surfaceOf) {
 void NoteDesk::Make(QWidget& surface, int index) {
     if (box_ && box_->Index() == index) return;
     Close();
-    box_ = new NoteBox(index, attached_, fonts_, [this] { Close(); }, &surface);
+    box_ = new NoteBox(
+        index, attached_, fonts_, [this] { Close(); }, &surface);
     if (!PlaceBox()) return Close();
     const auto& note = attached_.Main->ConView(index).ContainerNote;
     const double line = box_->fontMetrics().lineSpacing();

@@ -22,7 +22,7 @@ public:
     NoteDesk(const Attachment& attached, const Fonts& fonts) : attached_(attached), fonts_(fonts) {}
 
     void Open(QWidget& surface, int index, QPoint caretAt); // a place on the surface
-    void Raise(); // above all else in its container
+    void Raise();                                           // above all else in its container
     void Leave();                                           // gives the keyboard back to the workspace
     // After a turn of marks: the box follows its note, closes when that is gone, and opens where the logic
     // wishes it. The surface of a container is asked for by its index; it may have none.

@@ -11,7 +11,8 @@ namespace quill {
 namespace {
 
 Failure FailureOf(const GlibError& error) {
-    const bool missing = error.Get() != nullptr && g_error_matches(error.Get(), G_IO_ERROR, G_IO_ERROR_NOT_FOUND);
+    const bool missing =
+        error.Get() != nullptr && g_error_matches(error.Get(), G_IO_ERROR, G_IO_ERROR_NOT_FOUND);
     return {missing ? Reason::NotFound : Reason::Other, error.Text()};
 }
 
@@ -31,7 +32,8 @@ Status Launch(GAppInfo* program, const char* uri, const std::string& folder) {
         done = g_desktop_app_info_launch_uris_as_manager(
             G_DESKTOP_APP_INFO(program), uris, context.get(), G_SPAWN_SEARCH_PATH, &EnterFolder,
             const_cast<char*>(folder.c_str()), nullptr, nullptr, error.Out());
-    else done = g_app_info_launch_uris(program, uris, context.get(), error.Out());
+    else
+        done = g_app_info_launch_uris(program, uris, context.get(), error.Out());
     g_list_free(uris);
     if (!done) return FailureOf(error);
     return {};

@@ -1,5 +1,5 @@
-// Applications: the desktop's applications, started for a document, an address or by their own entry. All return
-// at once with the system's own words when it did not work; an empty folder is ours.
+// Applications: the desktop's applications, started for a document, an address or by their own entry. All
+// return at once with the system's own words when it did not work; an empty folder is ours.
 #pragma once
 
 #include "platform/result.h"

@@ -1,5 +1,5 @@
-// GioShell: the shell port on GIO: the user's own default applications, desktop entries by their rules, programs
-// as they are. Nothing that is passed here is read by a command interpreter unless Command is set.
+// GioShell: the shell port on GIO: the user's own default applications, desktop entries by their rules,
+// programs as they are. Nothing that is passed here is read by a command interpreter unless Command is set.
 #pragma once
 
 #include "platform/shell.h"

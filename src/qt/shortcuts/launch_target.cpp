@@ -26,7 +26,8 @@ bool BeginsLikeProgram(const std::string& path) {
     char head[4] = {};
     const auto got = file ? Repeat([&] { return ::read(file.Get(), head, sizeof head); }) : 0;
     const std::string_view text(head, got > 0 ? static_cast<std::size_t>(got) : 0);
-    return text.starts_with("#!") || text == "\x7f" "ELF";
+    return text.starts_with("#!") || text == "\x7f"
+                                             "ELF";
 }
 
 Status Spawn(const std::string& program, std::vector<std::string> before, const LaunchRequest& request) {
@@ -77,7 +78,8 @@ Status LaunchTarget(const LaunchRequest& request) {
     const int error = errno;
     if (IsAddress(request.File)) return OpenAddress(request.File, StartFolder(request));
     if (IsBareName(request.File))
-        if (const auto program = FindProgram(request.File); !program.empty()) return Spawn(program, {}, request);
+        if (const auto program = FindProgram(request.File); !program.empty())
+            return Spawn(program, {}, request);
     return FailureOfErrno(error);
 }
 

@@ -40,7 +40,8 @@ void Ask(const std::string& path, const std::shared_ptr<Question>& question,
     const bool exists = Exists(path);
     const std::lock_guard hold(question->Lock);
     if (question->Home != nullptr)
-        QMetaObject::invokeMethod(question->Home, [answer, exists] { (*answer)(exists); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            question->Home, [answer, exists] { (*answer)(exists); }, Qt::QueuedConnection);
 }
 
 } // namespace

@@ -11,14 +11,19 @@ namespace {
 
 Reason KindOf(int systemError) {
     switch (systemError) {
-    case EEXIST: return Reason::Exists;
+    case EEXIST:
+        return Reason::Exists;
     case ENOSPC:
-    case EDQUOT: return Reason::NoSpace;
+    case EDQUOT:
+        return Reason::NoSpace;
     case EACCES:
     case EROFS:
-    case EPERM: return Reason::Denied;
-    case ENOENT: return Reason::NotFound;
-    default: return Reason::Other;
+    case EPERM:
+        return Reason::Denied;
+    case ENOENT:
+        return Reason::NotFound;
+    default:
+        return Reason::Other;
     }
 }
 

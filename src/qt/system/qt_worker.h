@@ -1,5 +1,5 @@
-// QtWorker: one thread for what must not hold up the interface. A job that has begun is finished even when the
-// program ends; jobs that have not begun, and all completions, are dropped then.
+// QtWorker: one thread for what must not hold up the interface. A job that has begun is finished even when
+// the program ends; jobs that have not begun, and all completions, are dropped then.
 #pragma once
 
 #include "platform/work.h"

@@ -11,23 +11,39 @@ namespace quill {
 namespace {
 
 constexpr std::array remoteSchemes{"smb", "cifs", "sftp", "ssh", "ftp", "ftps", "nfs", "dav", "davs", "afp"};
-constexpr std::array remoteKinds{"nfs",     "nfs4",       "cifs",     "smb3",        "smbfs", "ncpfs", "afs", "9p",
-                                 "ceph",    "fuse.sshfs", "fuse.gvfsd-fuse", "fuse.rclone", "fuse.davfs",
-                                 "fuse.curlftpfs", "glusterfs", "fuse.glusterfs"};
+constexpr std::array remoteKinds{"nfs",
+                                 "nfs4",
+                                 "cifs",
+                                 "smb3",
+                                 "smbfs",
+                                 "ncpfs",
+                                 "afs",
+                                 "9p",
+                                 "ceph",
+                                 "fuse.sshfs",
+                                 "fuse.gvfsd-fuse",
+                                 "fuse.rclone",
+                                 "fuse.davfs",
+                                 "fuse.curlftpfs",
+                                 "glusterfs",
+                                 "fuse.glusterfs"};
 
 template <class List> bool Holds(const List& list, std::string_view word) {
     return std::ranges::any_of(list, [&](const char* it) { return word == it; });
 }
 
 bool IsSchemeLetter(char letter) {
-    return std::isalnum(static_cast<unsigned char>(letter)) || letter == '+' || letter == '-' || letter == '.';
+    return std::isalnum(static_cast<unsigned char>(letter)) || letter == '+' || letter == '-' ||
+           letter == '.';
 }
 
 // Empty when the text has none. One letter alone is a drive of another system and no scheme.
 std::string SchemeOf(const std::string& text) {
     const auto colon = text.find(':');
-    if (colon == std::string::npos || colon < 2 || !std::isalpha(static_cast<unsigned char>(text[0]))) return {};
-    if (!std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(colon), IsSchemeLetter)) return {};
+    if (colon == std::string::npos || colon < 2 || !std::isalpha(static_cast<unsigned char>(text[0])))
+        return {};
+    if (!std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(colon), IsSchemeLetter))
+        return {};
     std::string scheme = text.substr(0, colon);
     std::ranges::transform(scheme, scheme.begin(), [](unsigned char letter) { return std::tolower(letter); });
     return scheme;

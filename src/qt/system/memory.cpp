@@ -1,0 +1,19 @@
+#include "qt/system/memory.h"
+
+#include <malloc.h>
+
+namespace quill {
+
+void UseOneHeap() {
+#ifdef M_ARENA_MAX
+    mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
+void GiveMemoryBack() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
+} // namespace quill
