@@ -20,21 +20,34 @@ std::string Rewritten(std::string_view inside, bool (*read)(TagReader&, Record&)
     return text;
 }
 
+// The text of a record without its opening line, as the readers want it.
+std::string_view Inside(const std::string& text) {
+    return std::string_view(text).substr(text.find('\n') + 1);
+}
+
 template <class Record>
 void Check(std::string_view inside, bool (*read)(TagReader&, Record&), bool (*readOwn)(TagReader&, Record&),
            void (*write)(std::string&, const Record&)) {
     const std::string once = Rewritten(inside, read, write);
     if (once.empty()) return;
-    const std::string_view body = std::string_view(once).substr(once.find('\n') + 1);
-    fuzz::Require(once == Rewritten(body, readOwn, write));
+    const std::string twice = Rewritten(Inside(once), readOwn, write);
+    fuzz::Require(!twice.empty() && twice == Rewritten(Inside(twice), readOwn, write));
 }
 
-void CheckPath(std::string_view text) {
+std::string StoredAgain(std::string_view path) {
     std::string stored;
-    AppendPath(stored, text.substr(0, text.find('\n')));
-    std::string again;
-    AppendPath(again, ReadPath(stored));
-    fuzz::Require(stored == again);
+    AppendPath(stored, ReadPath(path));
+    return stored;
+}
+
+// Every path settles, and one of the file system comes back as it was.
+void CheckPath(std::string_view text) {
+    const std::string_view path = text.substr(0, text.find('\0'));
+    std::string stored;
+    AppendPath(stored, path);
+    const std::string once = StoredAgain(stored);
+    fuzz::Require(once == StoredAgain(once));
+    fuzz::Require(!path.starts_with('/') || ReadPath(stored) == path);
 }
 
 void CheckValues(std::string_view text) {

@@ -6,6 +6,7 @@
 #include "containers/near_edge.h"
 #include "core/objects.h"
 #include "core/tr.h"
+#include "persistence/save.h"
 #include "platform/clock.h"
 
 namespace quill {
@@ -84,6 +85,7 @@ void FlipFoldedNote(frmMain& Main, int Index) {
 
 void lblFoldUnfold_Click(frmMain& Main, int Index) {
     FoldUnfoldContainer(Main, Index, true);
+    SaveContainers(Main, true);
 }
 
 void ContainerLabel_DblClick(frmMain& Main, int Index) {
@@ -95,6 +97,7 @@ void ContainerLabel_DblClick(frmMain& Main, int Index) {
         Main.Group.AutoFoldContainerIndex = Index;
     }
     FoldUnfoldContainer(Main, Index, false);
+    SaveContainers(Main, true);
 }
 
 } // namespace quill

@@ -4,6 +4,7 @@
 #include "containers/shrink.h"
 #include "core/handlers.h"
 #include "core/objects.h"
+#include "persistence/save.h"
 
 #include <utility>
 
@@ -67,11 +68,12 @@ bool EndsOpeningClick(frmMain& Main) {
 
 void ContainerFrame_DblClick(frmMain& Main, int Index) {
     if (!IsLive(Main.Containers, Index)) return;
-    if (!IsShrunk(Main, Index) && !IsFolded(Main, Index)) ExpandShrinkContainer(Main, Index, true);
+    if (!IsShrunk(Main, Index) && !IsFolded(Main, Index)) shapeShrink_Click(Main, Index);
 }
 
 void shapeShrink_Click(frmMain& Main, int Index) {
     ExpandShrinkContainer(Main, Index, true);
+    SaveContainers(Main, true);
 }
 
 void picBack_MouseDown(frmMain& Main, const MouseEvent& event) {

@@ -140,7 +140,7 @@ bool CanShrinkBack(const frmMain& Main, int Index) {
 void ExpandShrinkContainer(frmMain& Main, int Index, bool UseEffect) {
     if (!IsLive(Main.Containers, Index)) return;
     const bool shrunk = IsShrunk(Main, Index);
-    if (!shrunk && Main.Group.JustExpanded && !Main.IsLoading) return;
+    if (!shrunk && Main.Group.JustExpanded && !Main.IsLoading && !Main.IsExiting) return;
     Main.Group.CurrentContainer = Index;
     shrunk ? Expand(Main, Index, UseEffect) : Shrink(Main, Index);
     Main.Marks.Container(Index);

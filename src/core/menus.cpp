@@ -1,6 +1,7 @@
 #include "core/menus.h"
 
 #include "containers/fold.h"
+#include "containers/gestures.h"
 #include "containers/lifecycle.h"
 #include "containers/shrink.h"
 #include "core/objects.h"
@@ -116,10 +117,11 @@ void FoldCurrent(frmMain& Main) {
     lblFoldUnfold_Click(Main, Current(Main));
 }
 void ToggleTile(frmMain& Main) {
-    ExpandShrinkContainer(Main, Current(Main), true);
+    shapeShrink_Click(Main, Current(Main));
 }
 void ToggleNote(frmMain& Main) {
     lblPinNote_Click(Main, Current(Main));
+    SaveContainers(Main, true);
 }
 
 void mnuConKeepExpanded_Click(frmMain& Main) {

@@ -9,6 +9,7 @@
 #include "core/objects.h"
 #include "dock/docking.h"
 #include "notes/notes.h"
+#include "persistence/save.h"
 #include "platform/windows.h"
 #include "shortcuts/launch.h"
 
@@ -95,6 +96,7 @@ void ClickFoldMark(frmMain& Main, int Index, const MouseEvent&) {
 }
 void ClickPin(frmMain& Main, int Index, const MouseEvent&) {
     lblPinNote_Click(Main, Index);
+    SaveContainers(Main, true);
 }
 void ClickShrinkMark(frmMain& Main, int Index, const MouseEvent&) {
     shapeShrink_Click(Main, Index);

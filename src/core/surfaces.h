@@ -4,6 +4,7 @@
 
 #include "platform/geometry.h"
 
+#include <compare>
 #include <functional>
 #include <string>
 #include <string_view>

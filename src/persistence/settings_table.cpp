@@ -47,6 +47,8 @@ template <auto Member> void WriteSetting(std::string& out, const frmMain& Main) 
     const auto& field = Main.Settings.*Member;
     if constexpr (requires { field.has_value(); })
         AppendValue(out, *field);
+    else if constexpr (std::is_same_v<FieldOf<Member>, std::string>)
+        AppendTrimmed(out, field);
     else
         AppendValue(out, field);
 }

@@ -128,8 +128,7 @@ void AppendLetter(std::string& out, char16_t letter) {
 bool NeedsUri(std::string_view path) {
     const bool blankEnds = Trimmed(path).size() != path.size();
     if (!IsPath(path) || (!blankEnds && IsPlain(path))) return false;
-    const bool storable = path.find('\0') == std::string_view::npos;
-    return storable && (blankEnds || std::any_of(path.begin(), path.end(), IsControl) || !IsUtf8(path));
+    return blankEnds || std::any_of(path.begin(), path.end(), IsControl) || !IsUtf8(path);
 }
 
 bool StandsInUri(char letter) {
@@ -155,6 +154,7 @@ std::optional<std::string> PercentDecoded(std::string_view text) {
         const int high = at + 2 < text.size() ? HexDigit(text[at + 1]) : -1;
         const int low = at + 2 < text.size() ? HexDigit(text[at + 2]) : -1;
         if (high < 0 || low < 0) return std::nullopt;
+        if (high + low == 0) return std::nullopt; // no path holds the byte 0
         path += static_cast<char>(high * 16 + low);
         at += 2;
     }
@@ -282,6 +282,11 @@ void AppendFromWindows1252(std::string& out, std::string_view text) {
 
 void AppendPath(std::string& out, std::string_view path) {
     if (!NeedsUri(path)) return AppendValue(out, path);
+    if (path.find('\0') != path.npos) {
+        std::string cleaned(path);
+        std::replace(cleaned.begin(), cleaned.end(), '\0', ' ');
+        return AppendPath(out, cleaned);
+    }
     constexpr char Hex[] = "0123456789ABCDEF";
     out += UriHead;
     for (const char letter : path) {

@@ -2,6 +2,7 @@
 // Timer_Tick (core/handlers.h). Frames come back as Frame_Tick at 50 a second while they are wanted.
 #pragma once
 
+#include <compare>
 #include <cstdint>
 
 namespace quill {

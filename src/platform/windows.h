@@ -5,6 +5,7 @@
 
 #include "platform/geometry.h"
 
+#include <compare>
 #include <vector>
 
 namespace quill {

@@ -201,6 +201,14 @@ TEST_F(Shrink, WhileLoadingTheGuardOfAClickDoesNotKeepAContainerOpen) {
     EXPECT_EQ(Main.Con(index).OriginalSize(), (Size{3000, 3000}));
 }
 
+TEST_F(Shrink, AnExitRightBehindTheClickStillReturnsTheTileToItsPlace) {
+    const int tile = NewTile(4000, 2000);
+    ExpandShrinkContainer(Main, tile, true);
+    Main.IsExiting = true;
+    ShrinkBackContainer(Main, false);
+    EXPECT_EQ(BoxWords(tile), "4000,2000 700x950");
+}
+
 TEST_F(Shrink, AHiddenToolbarStaysHiddenWhenTheTileOpens) {
     const int tile = NewTile(4000, 2000);
     Main.Con(tile).HideToolbar = true;

@@ -298,9 +298,7 @@ class Desktop:
 
     def double_click(self, x, y, button=1):
         self.move_to(x, y)
-        for _ in range(2):
-            self.press(button)
-            self.release(button)
+        self.x.double_press(button)
         self.settle()
 
     def drag(self, start, end, button=1, steps=8):

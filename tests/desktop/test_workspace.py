@@ -125,7 +125,7 @@ class Workspace(DesktopTest):
         self.app.settle()
         self.desktop.key("ctrl+End")
         self.desktop.type(" after")
-        until(lambda: "[START Note]\r\nbefore after\r\n[END Note]" in self.saved("Containers/0.REC"), "the text is saved")
+        until(lambda: "[START Note]\r\nbefore\r\n after\r\n[END Note]" in self.saved("Containers/0.REC"), "the text is saved")
 
     def test_a_typed_note_survives_a_kill(self):
         self.keep([files.container("Note", note="", note_on=1)])

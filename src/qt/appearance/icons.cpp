@@ -4,6 +4,7 @@
 #include "qt/system/memory.h"
 
 #include <QElapsedTimer>
+#include <QPixmapCache>
 #include <QTimerEvent>
 
 namespace quill {
@@ -67,6 +68,7 @@ void Icons::timerEvent(QTimerEvent* event) {
     }
     if (!answers_.empty()) return;
     turn_.stop();
+    QPixmapCache::clear(); // the theme's own copies of what is kept here
     worker_.Run(&GiveMemoryBack, [] {});
 }
 

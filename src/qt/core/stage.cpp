@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QPixmap>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -63,7 +64,9 @@ void Stage::Drain() {
 }
 
 MainWidget& Stage::Main() {
-    if (!main_) main_ = std::make_unique<MainWidget>(attached_);
+    if (main_) return *main_;
+    main_ = std::make_unique<MainWidget>(attached_);
+    main_->windowHandle()->installEventFilter(this);
     return *main_;
 }
 
@@ -89,9 +92,9 @@ bool Stage::event(QEvent* event) {
     return true;
 }
 
-// Watches the workspace's surface for its first picture.
+// Watches the main window for the moment in which the server shows it; its picture has been painted before.
 bool Stage::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() != QEvent::Paint || seen_) return QObject::eventFilter(object, event);
+    if (event->type() != QEvent::Expose || seen_) return QObject::eventFilter(object, event);
     seen_ = true;
     QCoreApplication::postEvent(this, new QEvent(firstPictureEvent), Qt::LowEventPriority);
     return false;
@@ -152,7 +155,6 @@ SurfaceWidget* Stage::Find(SurfaceId id) const {
 
 SurfaceWidget* Stage::Make(SurfaceId id) {
     auto* surface = new SurfaceWidget(id, {attached_, looks_, notes_}, ParentOf(id));
-    if (id.Kind == SurfaceKind::Workspace) surface->installEventFilter(this);
     surfaces_[id] = surface;
     restack_ = true;
     return surface;

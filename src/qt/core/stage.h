@@ -59,7 +59,7 @@ private:
     std::map<SurfaceId, SurfaceWidget*> surfaces_; // owned by their parents
     bool woken_ = false;
     bool restack_ = false;
-    bool seen_ = false; // the workspace has been painted once
+    bool seen_ = false; // the server has shown the workspace
 };
 
 } // namespace quill

@@ -35,7 +35,9 @@ void QtWindows::Show(WindowId window, Activate activate) {
     QWidget* widget = Widget(window);
     if (widget == nullptr) return;
     if (window == MainWindow) display_.Get().Stage.Drain();
+    const bool appears = !widget->isVisible();
     widget->show();
+    if (appears) widget->repaint(); // while the window manager is still busy with the window
     if (activate == Activate::Yes) qt::TakeFocus(*widget);
 }
 

@@ -13,9 +13,6 @@ struct FreeGlib {
 struct FreeObject {
     void operator()(void* object) const { g_object_unref(object); }
 };
-struct FreeError {
-    void operator()(GError* error) const { g_error_free(error); }
-};
 
 template <class T> using Owned = std::unique_ptr<T, FreeGlib>;
 template <class T> using OwnedObject = std::unique_ptr<T, FreeObject>;
