@@ -74,7 +74,7 @@ inline constexpr float TileIconLeft = 20;
 
 // --- a shortcut -------------------------------------------------------------------------------------------
 inline constexpr float SmallIconPixels = 16;
-inline constexpr float LargeIconFrom = 12; // points of the label's font from which its icon is the large one
+inline constexpr float LargeIconFrom = 11; // points of the label's font from which its icon is the large one
 inline constexpr float IconGap = 10;       // between icon and label
 inline constexpr float LinePerPoint = 20 * 1.4F; // height of a line that was not measured yet, twips a point
 

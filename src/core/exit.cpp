@@ -71,13 +71,15 @@ void RestartIgnoringChanges(frmMain& Main) {
     const auto question = Tr(Main, "Ignore all recent changes and restart the program?");
     if (Main.P.Questions.MsgBox(question, BoxYesNo | BoxQuestion, ProgramName) != AnswerYes || Main.IsExiting)
         return;
-    const auto recovery = Main.SettingsFolder + "/" + ProgramName + ".REC";
-    if (Main.P.Files.Exists(recovery) && !Main.P.Files.Remove(recovery)) return;
-    KillContainers(Main, "*.REC");
     if (const auto started = Main.P.Shell.StartProgram(reloader, {}); !started) {
         Main.P.Questions.MsgBox(Tr(Main, "Error: %1", started.Error().Text), BoxWarning, ProgramName);
         return;
     }
+    // It waits for our end, so there is time to throw the changes away; before it, a start that fails lost
+    // them.
+    const auto recovery = Main.SettingsFolder + "/" + ProgramName + ".REC";
+    if (Main.P.Files.Exists(recovery)) (void)Main.P.Files.Remove(recovery);
+    KillContainers(Main, "*.REC");
     Main.g_DontSave = true;
     mnuExitMainWin_Click(Main);
 }

@@ -40,12 +40,15 @@ void AddFirstShortcut(frmMain& Main, const FirstShortcut& entry, bool isFirst) {
 
 } // namespace
 
+Rect FirstPlace(const frmMain& Main) {
+    const auto screen = MonitorOf(Main, {});
+    return {screen.Left + screen.Width / 2 - firstWidth / 2, firstTop, firstWidth, firstHeight};
+}
+
 void FirstRun(frmMain& Main) {
     Main.Settings.FontName = "Segoe UI";
     Main.Settings.Stretch = true;
     SetWorkspaceColors(Main, 0x1A1306, 0xFFFFFF);
-    const auto screen = MonitorOf(Main, Main.View.Window);
-    PlaceMain(Main, {screen.Left + screen.Width / 2 - firstWidth / 2, firstTop, firstWidth, firstHeight});
     for (const auto& entry : firstShortcuts) AddFirstShortcut(Main, entry, &entry == firstShortcuts);
 }
 

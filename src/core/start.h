@@ -22,6 +22,7 @@ std::string PlainHelp();       // the text of --help
 
 void SettleSettingsFolder(frmMain& Main); // PortableMode and SettingsFolder
 void LoadSettings(frmMain& Main);         // core/start_load.cpp, reads like the list that it is
+Rect FirstPlace(const frmMain& Main);     // of the window while no file tells one
 void FirstRun(frmMain& Main);             // no settings file: the default workspace
 void PostLoad(frmMain& Main);
 

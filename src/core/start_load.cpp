@@ -31,8 +31,9 @@ float NumberOr(const std::optional<std::string>& text, float otherwise) {
 }
 
 void RestoreWindow(frmMain& Main, const DeferredSettings& stored) {
+    PlaceMain(Main, FirstPlace(Main)); // what a file does not tell
     if (!stored.X) return;
-    const auto& now = Main.View.Window;
+    const auto now = Main.View.Window;
     PlaceMain(Main, {NumberOr(stored.X, now.Left), NumberOr(stored.Y, now.Top), NumberOr(stored.W, now.Width),
                      NumberOr(stored.H, now.Height)});
     BringIntoView(Main);

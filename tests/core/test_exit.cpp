@@ -46,8 +46,7 @@ TEST_F(Exit, TheDesktopsSessionEndSavesToo) {
 }
 
 TEST_F(Exit, AClosedWindowIsAnExit) {
-    desk.RunProgram({"--nosplash"}, [](frmMain& Main) { Form_Closing(Main); });
-    EXPECT_EQ(desk.Computer.Session.QuitCode, 0);
+    EXPECT_EQ(desk.RunProgram({"--nosplash"}, [](frmMain& Main) { Form_Closing(Main); }), 0);
 }
 
 TEST_F(Exit, AfterItsOwnSaveNothingIsWrittenAnyMore) {
@@ -70,7 +69,7 @@ TEST_F(Exit, ItLeavesNoRecoverySet) {
 TEST_F(Exit, AnErrorInTheSaveDoesNotKeepItFromEnding) {
     EXPECT_EQ(desk.RunProgram({"--nosplash"},
                               [&](frmMain& Main) {
-                                  desk.Files().MakeReadOnly(desk.Settings(""));
+                                  desk.Files().MakeReadOnly(fake::SettingsFolder);
                                   mnuExitApp_Click(Main);
                               }),
               0);

@@ -40,7 +40,7 @@ TEST_F(KeyboardFocus, EveryElementThatDoesSomethingIsReachedByTab) {
 TEST_F(KeyboardFocus, AShortcutIsOneStopAndEnterStartsIt) {
     ASSERT_TRUE(TabTo(ElementKind::lblShortcut));
     desk.PressKey(KeyReturn);
-    EXPECT_EQ(desk.Computer.Shell.LastLaunch(), "/usr/bin/editor");
+    EXPECT_EQ(desk.Computer.Shell.LastLaunch(), "start /usr/bin/editor");
     desk.PressKey(KeyTab);
     EXPECT_NE(desk.Main->View.Focus.Kind, ElementKind::picShortcut);
 }

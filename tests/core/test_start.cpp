@@ -111,7 +111,7 @@ TEST_F(Start, ABackupSaysWhenItIsComplete) {
 
 TEST_F(Start, AFailedBackupIsToldAndIsNotComplete) {
     desk.Files().Put(desk.Settings("Quillmere.ini"), Ini());
-    desk.Files().MakeReadOnly(desk.Settings(""));
+    desk.Files().MakeReadOnly(fake::SettingsFolder);
     EXPECT_EQ(desk.RunProgram({"/backup"}), 1);
     EXPECT_TRUE(desk.Person().Boxes.empty());
     EXPECT_NE(desk.Computer.Session.Err.find("the backup could not be made"), std::string::npos);

@@ -19,10 +19,11 @@ struct Waiting : testing::Test {
     Desk desk;
     void SetUp() override {
         desk.Files().Put(desk.Settings("Quillmere.ini"), "108\r\n");
-        desk.Files().Put(desk.Settings("Containers/0.con"),
-                         "108\r\n[Container]\r\n-1\r\n[Name]\r\nWork\r\n[START Note]\r\ntext\r\n[END "
-                         "Note]\r\n[X]\r\n600\r\n[Y]"
-                         "\r\n600\r\n[W]\r\n3000\r\n[H]\r\n3000\r\n");
+        desk.Files().Put(
+            desk.Settings("Containers/0.con"),
+            "108\r\n[Container]\r\n-1\r\n[Name]\r\nWork\r\n[NOTE ON]\r\n1\r\n[START Note]\r\ntext\r\n[END "
+            "Note]\r\n[X]\r\n600\r\n[Y]"
+            "\r\n600\r\n[W]\r\n3000\r\n[H]\r\n3000\r\n");
         desk.StartWorkspace();
     }
 };

@@ -223,6 +223,7 @@ void Desk::PointAt(ElementKind kind, int index) {
 void Desk::Drag(ElementKind kind, int index, Point by) {
     const Found found = Must(kind, index);
     const auto start = EventAt(found.Surface, found.At, MouseButton::Left);
+    const Rect from = Main->View.Window;
     MouseDown(*Main, found.Surface, start);
     MouseEvent event = start;
     for (const float part : {0.5F, 1.0F}) {
@@ -232,6 +233,8 @@ void Desk::Drag(ElementKind kind, int index, Point by) {
         Computer.Windows.Cursor = event.Screen;
         MouseMove(*Main, found.Surface, event);
     }
+    // A window that is carried follows the mouse.
+    if (Computer.Windows.Moving) MoveWindow({from.Left + by.X, from.Top + by.Y, from.Width, from.Height});
     MouseUp(*Main, found.Surface, event);
     Turn();
 }
