@@ -77,9 +77,7 @@ void RestartIgnoringChanges(frmMain& Main) {
     }
     // It waits for our end, so there is time to throw the changes away; before it, a start that fails lost
     // them.
-    const auto recovery = Main.SettingsFolder + "/" + ProgramName + ".REC";
-    if (Main.P.Files.Exists(recovery)) (void)Main.P.Files.Remove(recovery);
-    KillContainers(Main, "*.REC");
+    (void)DropRecovery(Main);
     Main.g_DontSave = true;
     mnuExitMainWin_Click(Main);
 }
