@@ -12,7 +12,10 @@ inline constexpr float WindowRimTop = 15; // half of what the height gives up, s
 inline constexpr float WindowRimWidth = 35;
 inline constexpr float WindowRimHeight = 30;
 
-inline constexpr float TitleHeight = 330;      // one line of the caption's font with air above and below
+inline constexpr float TitleHeight = 330; // one line of the caption's font with air above and below
+// A workspace that touches the upper edge stands 100 twips beyond it: what is read and pressed lies below
+// that.
+inline constexpr float TitleContentTop = 60;
 inline constexpr float CaptionLeft = 120;      // in line with the left edge of the icons of the first column
 inline constexpr float CaptionNarrower = 1350; // leaves the room of the buttons at the right
 inline constexpr float ButtonEdge = 240;       // 16 pixels, the size that the button sets are drawn for

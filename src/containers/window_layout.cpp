@@ -22,14 +22,16 @@ Rect BackPlace(const Rect& window, bool movable) {
 
 Rect ButtonPlace(float left) {
     using namespace measures;
-    return {AtLeastZero(left), (TitleHeight - ButtonEdge) / 2, ButtonEdge, ButtonEdge};
+    return {AtLeastZero(left), TitleContentTop + (TitleHeight - TitleContentTop - ButtonEdge) / 2, ButtonEdge,
+            ButtonEdge};
 }
 
 void LayTitle(WorkspaceView& view, bool locked) {
     using namespace measures;
     const float width = view.picBack.Place.Width;
     view.picMoveMe.Place = {0, 0, width, TitleHeight};
-    view.lblCaption.Place = {CaptionLeft, 0, AtLeastZero(width - CaptionNarrower), TitleHeight};
+    view.lblCaption.Place = {CaptionLeft, TitleContentTop, AtLeastZero(width - CaptionNarrower),
+                             TitleHeight - TitleContentTop};
     const float dock = width - DockFromRight;
     view.PicDock.Place = ButtonPlace(dock);
     view.PicDock.Visible = false; // docking by hand is not built

@@ -29,7 +29,6 @@ void Computer::EndProcess() {
     Clock.StopEverything();
     Worker.Drop();
     Session.Attached = nullptr;
-    Session.QuitCode.reset();
     Questions.Ending = false;
     Windows.EndProcess();
 }

@@ -32,6 +32,15 @@ std::optional<Point> PressPoint(const frmMain& main, SurfaceId surface, const El
     return {};
 }
 
+Rect Stretched(Rect place, int edges, Point by) {
+    enum { Left = 1, Top = 2, Right = 4, Bottom = 8 };
+    if ((edges & Left) != 0) place.Left += by.X;
+    if ((edges & Top) != 0) place.Top += by.Y;
+    if ((edges & (Left | Right)) != 0) place.Width += (edges & Left) != 0 ? -by.X : by.X;
+    if ((edges & (Top | Bottom)) != 0) place.Height += (edges & Top) != 0 ? -by.Y : by.Y;
+    return place;
+}
+
 std::string NameOf(SurfaceId surface) {
     static constexpr const char* Names[] = {"Workspace", "Container", "Picture"};
     const std::string name = Names[static_cast<int>(surface.Kind)];
@@ -235,8 +244,24 @@ void Desk::Drag(ElementKind kind, int index, Point by) {
     }
     // A window that is carried follows the mouse.
     if (Computer.Windows.Moving) MoveWindow({from.Left + by.X, from.Top + by.Y, from.Width, from.Height});
+    FollowWindowManager(by);
     MouseUp(*Main, found.Surface, event);
     Turn();
+}
+
+// A press that was handed on moves or sizes the window with the pointer.
+void Desk::FollowWindowManager(Point by) {
+    auto& windows = Computer.Windows;
+    Rect place = windows.Of(MainWindow).Place;
+    if (windows.Moving == MainWindow) {
+        place.Left += by.X;
+        place.Top += by.Y;
+    } else if (windows.Resizing == MainWindow) {
+        place = Stretched(place, windows.ResizingEdges, by);
+    } else {
+        return;
+    }
+    windows.MovedByPerson(place);
 }
 
 // ---- the keyboard

@@ -71,6 +71,7 @@ struct Desk {
 private:
     SurfaceId TopAt(Point screen) const;
     Rect OnScreen(SurfaceId surface) const;
+    void FollowWindowManager(Point by);
     MouseEvent EventAt(SurfaceId surface, Point at, MouseButton button) const;
     Found Must(ElementKind kind, int index) const;
 };

@@ -1,5 +1,7 @@
 #include "fake/files.h"
 
+#include <stdexcept>
+
 namespace quill::fake {
 
 namespace {
@@ -75,7 +77,7 @@ Result<std::string> FakeFiles::Read(const std::string& path, std::uint64_t limit
     Reads.push_back("read " + Short(path));
     const Node* node = Find(path);
     if (node == nullptr) return FailureOf(Reason::NotFound);
-    if (const auto fails = failReading_.find(path); fails != failReading_.end())
+    if (const auto fails = failReading_.find(Clean(path)); fails != failReading_.end())
         return FailureOf(fails->second);
     if (node->Folder) return Failure{Reason::Other, "Is a directory"};
     if ((node->Mode & ReadBit) == 0) return FailureOf(Reason::Denied);
@@ -88,7 +90,7 @@ Result<std::vector<std::string>> FakeFiles::List(const std::string& folder) cons
     Reads.push_back("list " + Short(folder));
     const Node* node = Find(folder);
     if (node == nullptr || !node->Folder) return FailureOf(Reason::NotFound);
-    if (const auto fails = failReading_.find(folder); fails != failReading_.end())
+    if (const auto fails = failReading_.find(Clean(folder)); fails != failReading_.end())
         return FailureOf(fails->second);
     if ((node->Mode & ReadBit) == 0) return FailureOf(Reason::Denied);
     return Names(folder);
@@ -248,19 +250,25 @@ void FakeFiles::FailFrom(int n, Reason reason) {
     failFromReason_ = reason;
 }
 void FakeFiles::FailReading(const std::string& path, Reason reason) {
-    failReading_[path] = reason;
+    failReading_[Clean(path)] = reason;
 }
 void FakeFiles::Space(std::uint64_t bytes) {
     limit_ = Used() + bytes;
 }
+// A stage that is set for what is not there would test nothing.
+Node& FakeFiles::Standing(const std::string& path) {
+    const auto found = tree_.find(Clean(path));
+    if (found == tree_.end()) throw std::runtime_error("nothing stands at " + path);
+    return found->second;
+}
 void FakeFiles::MakeReadOnly(const std::string& path) {
-    tree_.at(path).Mode &= ~0222U;
+    Standing(path).Mode &= ~0222U;
 }
 void FakeFiles::MakeWritable(const std::string& path) {
-    tree_.at(path).Mode |= WriteBit;
+    Standing(path).Mode |= WriteBit;
 }
 void FakeFiles::MakeUnreadable(const std::string& path) {
-    tree_.at(path).Mode &= ~0444U;
+    Standing(path).Mode &= ~0444U;
 }
 void FakeFiles::Heal() {
     failAt_.clear();
@@ -322,8 +330,9 @@ void FakeFiles::PutFolder(const std::string& path, unsigned mode) {
 }
 
 void FakeFiles::Delete(const std::string& path) {
+    const auto gone = Clean(path);
     std::erase_if(tree_,
-                  [&](const auto& row) { return row.first == path || StartsWith(row.first, Below(path)); });
+                  [&](const auto& row) { return row.first == gone || StartsWith(row.first, Below(gone)); });
 }
 
 std::string FakeFiles::Get(const std::string& path) const {

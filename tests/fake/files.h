@@ -90,6 +90,7 @@ private:
     std::optional<Failure> ParentTrouble(const std::string& path) const;
     std::optional<Failure> RoomTrouble(std::uint64_t bytes) const;
     const Node* Find(const std::string& path) const;
+    Node& Standing(const std::string& path);
     bool HasChildren(const std::string& folder) const;
     std::string Short(const std::string& path) const;
     std::uint64_t Used() const;

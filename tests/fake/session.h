@@ -16,6 +16,7 @@ public:
     }
     void Attach(frmMain& main) override {
         Attached = &main;
+        QuitCode.reset(); // what an earlier process ended with
         if (OnAttach) OnAttach(&main);
     }
     void Detach() override {

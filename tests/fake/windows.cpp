@@ -70,6 +70,7 @@ void FakeWindows::BeginMove(WindowId window) {
 
 void FakeWindows::BeginResize(WindowId window, int edges) {
     Resizing = window;
+    ResizingEdges = edges;
     Log.push_back("beginresize " + NameOf(window) + " " + std::to_string(edges));
 }
 

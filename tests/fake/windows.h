@@ -52,6 +52,7 @@ public:
     std::optional<Rect> PendingMove;
     std::optional<WindowState> PendingState;
     std::optional<WindowId> Moving, Resizing; // begun, until the desk's release
+    int ResizingEdges = 0;                    // sum of 1 left, 2 top, 4 right, 8 bottom
 
 private:
     void Raise(WindowId window);

@@ -28,7 +28,7 @@ std::string LookAndSettle(Computer& computer) {
     const auto seen = Standings(computer.Files);
     const auto settled = Settle(computer.Files, folder);
     EXPECT_TRUE(settled) << settled.Error().Text;
-    EXPECT_EQ(settled.Value(), "");
+    EXPECT_TRUE(settled && settled.Value().empty());
     EXPECT_EQ(Standings(computer.Files), seen);
     EXPECT_FALSE(computer.Files.Has(At("Saving")));
     EXPECT_FALSE(computer.Files.Has(At("Saving.part")));
@@ -125,6 +125,34 @@ TEST(Generation, ACommittedOneIsOnTheDiskBeforeItCounts) {
     computer.Files.CutPower();
     EXPECT_EQ(computer.Files.Get(At("Containers/0.con")), first);
     EXPECT_EQ(computer.Files.Get(At("Quillmere.ini")), settings);
+}
+
+TEST(Generation, ACommittedOneIsNotForgottenBeforeItsNamesAreOnTheDisk) {
+    Computer computer;
+    PutCommitted(computer);
+    computer.Files.Recount();
+    ReplaceCommitted(computer);
+    std::string order;
+    for (const auto& line : computer.Files.Log) {
+        const bool tells =
+            line.starts_with("sync") || line.starts_with("rename Saving") || line == "remove Saving/manifest";
+        if (tells) order += line + "\n";
+    }
+    EXPECT_EQ(order, "sync Saving.part/0.con\n"
+                     "sync Saving.part/Quillmere.ini\n"
+                     "sync Saving.part/manifest\n"
+                     "sync Saving.part\n"
+                     "rename Saving.part -> Saving\n"
+                     "sync " +
+                         folder +
+                         "\n"
+                         "rename Saving/0.con -> Containers/0.con\n"
+                         "rename Saving/Quillmere.ini -> Quillmere.ini\n"
+                         "sync Containers\n"
+                         "sync " +
+                         folder +
+                         "\n"
+                         "remove Saving/manifest\n");
 }
 
 TEST(Generation, ARecoveryOneNeverWaitsForTheDisk) {
