@@ -22,7 +22,7 @@ TEST_F(LinkLayout, ALargeFontHasALargeIconInTheSizeOfTheSettings) {
     const int link = NewLink(OnWorkspace(), {1000, 2000});
     Main.Settings.LargeIconSize = 48;
     for (const auto& [points, edge] :
-         {std::pair{10.0F, 240.0F}, {11.0F, 240.0F}, {12.0F, 720.0F}, {40.0F, 720.0F}}) {
+         {std::pair{10.0F, 240.0F}, {10.9F, 240.0F}, {11.0F, 720.0F}, {40.0F, 720.0F}}) {
         Main.LinkView(link).lblShortcut.FontSize = points;
         EXPECT_EQ(IconEdge(Main, link), edge) << points;
     }
