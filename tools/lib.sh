@@ -9,7 +9,7 @@ packages_for() {
         "libxcb1-dev libglib2.0-dev libzip-dev libgtest-dev" ;;
     run) echo "fonts-dejavu-core breeze-icon-theme qt6-image-formats-plugins" ;;
     virtual) echo "xvfb openbox dbus x11-utils x11-xserver-utils imagemagick" ;;
-    test) echo "python3 xvfb openbox picom dbus xdotool x11-utils x11-xserver-utils imagemagick libxtst6 xterm" ;;
+    test) echo "python3 xvfb openbox picom dbus xdotool x11-utils x11-xserver-utils imagemagick libxtst6 xterm unzip" ;;
     check) echo "python3 clang-format" ;;
     bench) echo "python3 xvfb openbox libxdamage1" ;;
     coverage) echo "python3" ;;

@@ -24,10 +24,10 @@ TEST_F(WindowLayout, WhileLoadingTheWindowIsLaidOutOnlyAtTheEnd) {
 TEST_F(WindowLayout, TheTitleRowFollowsTheWidth) {
     EXPECT_EQ(fake::Words(Main.View.picMoveMe.Place), "0,0 12000x330");
     EXPECT_EQ(fake::Words(Main.View.lblCaption.Place), "120,60 10650x270");
-    EXPECT_EQ(fake::Words(Main.View.PicDock.Place), "11630,45 240x240");
-    EXPECT_EQ(fake::Words(Main.View.PicLockToolbar.Place), "11310,45 240x240");
-    EXPECT_EQ(fake::Words(Main.View.PicUnLockToolbar.Place), "11310,45 240x240");
-    EXPECT_EQ(fake::Words(Main.View.PicMenu.Place), "10990,45 240x240");
+    EXPECT_EQ(fake::Words(Main.View.PicDock.Place), "11630,75 240x240");
+    EXPECT_EQ(fake::Words(Main.View.PicLockToolbar.Place), "11310,75 240x240");
+    EXPECT_EQ(fake::Words(Main.View.PicUnLockToolbar.Place), "11310,75 240x240");
+    EXPECT_EQ(fake::Words(Main.View.PicMenu.Place), "10990,75 240x240");
 }
 
 TEST_F(WindowLayout, OneOfTheTwoLocksIsSeen) {

@@ -76,7 +76,7 @@ TEST(SettingsTable, EveryDefaultIsReadable) {
 }
 
 TEST(SettingsTable, TheDocumentationHoldsTheTable) {
-    const auto page = std::filesystem::path(__FILE__).parent_path() / "../../docs/formats-settings.md";
+    const auto page = std::filesystem::path(QUILLMERE_SOURCE_DIR) / "docs/formats-settings.md";
     std::stringstream text;
     text << std::ifstream(page).rdbuf();
     EXPECT_NE(text.str().find(SettingsTableText()), std::string::npos) << "The page lacks this table:\n"
