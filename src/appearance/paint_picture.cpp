@@ -12,7 +12,6 @@ namespace {
 
 constexpr float MissingEdge = 480;
 constexpr float MissingPoints = 8;
-constexpr float GripEdge = 160;
 
 // An empty frame that says which file it waits for.
 void PaintMissing(const frmMain& Main, int index, const Rect& place, Canvas& canvas) {
@@ -43,10 +42,6 @@ void PaintPicture(frmMain& Main, int Index, Canvas& canvas) {
         PaintMissing(Main, Index, image, canvas);
     else
         canvas.Picture(ResolvedPath(Main, Main.Pic(Index).Path), image);
-    canvas.Symbol("resize-grip",
-                  {frame.Right() - GripEdge - 2 * TwipsPerPixel,
-                   frame.Bottom() - GripEdge - 2 * TwipsPerPixel, GripEdge, GripEdge},
-                  Main.View.ForeColor, 0.5F);
 }
 
 } // namespace quill
