@@ -15,7 +15,6 @@ namespace {
 
 constexpr float HairLine = TwipsPerPixel;
 constexpr float TitleSetOff = 0.35F; // how much of the border's colour the title row takes
-constexpr float NotePadding = 75;
 constexpr float FootPoints = 8;
 constexpr float TilePadding = 60;
 
@@ -101,7 +100,7 @@ void PaintNote(const frmMain& Main, const ContainerView& view, Canvas& canvas) {
     const Rect place = Shifted(note.Place, {view.ContainerFrame.Place.Left, view.ContainerFrame.Place.Top});
     if (!canvas.Exposed().Intersects(place)) return;
     canvas.RoundRect(place, 4 * HairLine, note.BackColor, {});
-    Rect text = Inset(place, NotePadding);
+    Rect text = Inset(place, measures::NotePadding);
     canvas.PushClip(text);
     text.Top -= note.ScrollTop;
     text.Height += note.ScrollTop;

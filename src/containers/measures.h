@@ -54,6 +54,7 @@ inline constexpr float NoteLeft = 75;
 inline constexpr float NoteTop = 10;
 inline constexpr float NoteNarrower = 150;
 inline constexpr float NoteLower = 400;
+inline constexpr float NotePadding = 75;
 inline constexpr float NoteFontSize = 10; // points
 
 inline constexpr float FootHeight = 390;     // words and resize mark, below the note box

@@ -4,6 +4,7 @@
 #include "containers/measures.h"
 #include "core/handlers.h"
 #include "core/objects.h"
+#include "notes/notes.h"
 
 #include <algorithm>
 #include <vector>
@@ -135,7 +136,10 @@ void VScroll_MouseUp(frmMain& Main) {
 
 void ContainerFrame_MouseWheel(frmMain& Main, int Index, int steps) {
     if (!IsLive(Main.Containers, Index)) return;
-    ScrollContainer(Main, Index, Main.ConView(Index).ScrollTop - static_cast<float>(steps) * WheelStep);
+    const auto& view = Main.ConView(Index);
+    const float way = static_cast<float>(steps) * WheelStep;
+    if (view.ContainerNote.Visible) return ScrollNote(Main, Index, view.ContainerNote.ScrollTop - way);
+    ScrollContainer(Main, Index, view.ScrollTop - way);
 }
 
 } // namespace quill

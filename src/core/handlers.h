@@ -63,6 +63,8 @@ void Frame_Tick(frmMain& Main); // while frames are wanted
 void ContainerNote_GotFocus(frmMain& Main, int Index);
 void ContainerNote_KeyDown(frmMain& Main, int Index, const KeyEvent& event);
 void ContainerNote_Change(frmMain& Main, int Index, const std::string& text); // LF or CR LF
+// The box was left with this paragraph at its upper edge, and so many twips of it above.
+void ContainerNote_Scroll(frmMain& Main, int Index, int paragraph, float above);
 void ContainerNote_LostFocus(frmMain& Main, int Index);
 
 void Form_Moved(frmMain& Main, const Rect& place); // frmMain stands there now, whoever put it there

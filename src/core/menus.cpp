@@ -3,6 +3,7 @@
 #include "containers/fold.h"
 #include "containers/gestures.h"
 #include "containers/lifecycle.h"
+#include "containers/measures.h"
 #include "containers/shrink.h"
 #include "core/objects.h"
 #include "core/start.h"
@@ -19,6 +20,9 @@
 namespace quill {
 namespace {
 
+constexpr float stepAside = 300; // twips, about a title row
+constexpr int mostSteps = 20;
+
 bool HasContainer(const frmMain& Main) {
     return IsLive(Main.Containers, Main.Group.CurrentContainer);
 }
@@ -26,7 +30,30 @@ bool HasShortcut(const frmMain& Main) {
     return IsLive(Main.Shortcuts, Main.Links.CurrentShortcut);
 }
 
+bool StandsAt(const frmMain& Main, Point corner) {
+    for (const auto& row : Live(Main.Containers)) {
+        const auto& place = Main.ConView(row.Index).Container.Place;
+        if (place.Left == corner.X && place.Top == corner.Y) return true;
+    }
+    return false;
+}
+
+// Where the last press was, but whole, and not exactly over a container that nobody would then see.
+void ChooseNewPlace(frmMain& Main) {
+    const auto& back = Main.View.picBack.Place;
+    const float edge = measures::NewContainerEdge + measures::EdgeGap;
+    const float top = Main.View.picMoveMe.Place.Bottom();
+    const float right = std::max(0.0F, back.Width - edge), bottom = std::max(top, back.Height - edge);
+    Point& place = Main.Group.NewContainerPos;
+    place = {std::clamp(place.X, 0.0F, right), std::clamp(place.Y, top, bottom)};
+    const Point step{place.X + stepAside > right ? -stepAside : stepAside,
+                     place.Y + stepAside > bottom ? -stepAside : stepAside};
+    for (int tries = 0; tries < mostSteps && StandsAt(Main, place); ++tries)
+        place = {std::clamp(place.X + step.X, 0.0F, right), std::clamp(place.Y + step.Y, top, bottom)};
+}
+
 void mnuNew_Click(frmMain& Main) {
+    ChooseNewPlace(Main);
     bool ok = false;
     NewGroup(Main, false, ok);
     if (!ok) return;
@@ -37,6 +64,7 @@ void mnuNew_Click(frmMain& Main) {
 }
 
 void mnuNewNote_Click(frmMain& Main) {
+    ChooseNewPlace(Main);
     if (NewNote(Main, "", Tr(Main, "Note"), false)) SaveContainers(Main, true);
 }
 

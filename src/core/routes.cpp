@@ -39,8 +39,13 @@ void PressTitle(frmMain& Main, int, const MouseEvent& event) {
 void DoubleClickTitle(frmMain& Main, int, const MouseEvent&) {
     mnuMaximize_Click(Main);
 }
-void ClickMenuButton(frmMain& Main, int, const MouseEvent& event) {
-    PopupMenu(Main, MenuName::Workspace, event.Screen);
+// Below the button, not over it.
+void ClickMenuButton(frmMain& Main, int, const MouseEvent&) {
+    const auto& view = Main.View;
+    const auto& button = view.PicMenu.Place;
+    PopupMenu(Main, MenuName::Workspace,
+              {view.Window.Left + view.picBack.Place.Left + view.picMoveMe.Place.Left + button.Left,
+               view.Window.Top + view.picBack.Place.Top + view.picMoveMe.Place.Top + button.Bottom()});
 }
 void ClickLock(frmMain& Main, int, const MouseEvent&) {
     mnuLock_Click(Main);

@@ -1,6 +1,7 @@
 #include "dock/docking.h"
 
 #include "containers/layout.h"
+#include "core/splash.h"
 #include "platform/windows.h"
 
 #include <algorithm>
@@ -33,6 +34,11 @@ bool Reachable(const Rect& window, const Rect& area) {
 }
 
 } // namespace
+
+DialogPause::DialogPause(frmMain& main) : dock_(main.Dock) {
+    ++dock_.DialogPauses;
+    EndSplash(main);
+}
 
 Rect VirtualDesktop(const frmMain& Main) {
     const auto monitors = Main.P.Windows.Monitors();

@@ -44,10 +44,11 @@ void mnuMaximize_Click(frmMain& Main);
 void mnuLock_Click(frmMain& Main);
 void mnuOnTop_Click(frmMain& Main);
 void mnuPreventWindowMovement_Click(frmMain& Main);
-// Docking is held back while a question is open; one object a question.
+// Docking is held back while a question is open; one object a question. The splash lies over everything, so
+// it makes room for the question.
 class DialogPause {
 public:
-    explicit DialogPause(frmMain& main) : dock_(main.Dock) { ++dock_.DialogPauses; }
+    explicit DialogPause(frmMain& main);
     ~DialogPause() { --dock_.DialogPauses; }
     DialogPause(const DialogPause&) = delete;
     DialogPause& operator=(const DialogPause&) = delete;

@@ -7,21 +7,33 @@
 #include "core/objects.h"
 #include "core/tr.h"
 
+#include <algorithm>
+
 namespace quill {
 namespace {
 
 constexpr std::string_view blank = " \t\r\n";
 
+// A lone carriage return ends a line too.
+void AppendLine(std::string& lines, std::string_view line) {
+    for (auto end = line.find('\r'); end != std::string_view::npos; end = line.find('\r')) {
+        lines.append(line.substr(0, end)).append("\r\n");
+        line.remove_prefix(end + 1);
+    }
+    lines.append(line);
+}
+
 std::string WithLineEnds(const std::string& text) {
     std::string lines;
     lines.reserve(text.size());
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const bool pair = text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n';
-        if (pair) ++at;
-        if (pair || text[at] == '\n' || text[at] == '\r')
-            lines += "\r\n";
-        else
-            lines += text[at];
+    for (std::size_t from = 0; from < text.size();) {
+        const auto feed = std::min(text.find('\n', from), text.size());
+        auto line = std::string_view(text).substr(from, feed - from);
+        const bool ended = feed < text.size();
+        if (ended && line.ends_with('\r')) line.remove_suffix(1);
+        AppendLine(lines, line);
+        if (ended) lines += "\r\n";
+        from = feed + 1;
     }
     return lines;
 }
@@ -93,6 +105,7 @@ void SetNoteText(frmMain& Main, int Index, std::string text) {
     auto lines = WithLineEnds(text);
     if (note.Text == lines) return;
     note.Text = std::move(lines);
+    note.ScrollTop = 0;
     ++note.Revision;
     LayAgain(Main, Index);
 }

@@ -16,6 +16,14 @@ void SetNoteText(frmMain& Main, int Index, std::string text); // not by typing: 
 bool TypeNoteText(frmMain& Main, int Index, const std::string& text);
 // Blanks, tabs, CR and LF off both ends.
 std::string_view CleanNoteText(std::string_view text);
+// The paragraph at the upper edge of a note, from 0, and how much of it is scrolled out, in twips.
+struct NoteTop {
+    int Paragraph = 0;
+    float Above = 0;
+};
+NoteTop TopOfNote(const frmMain& Main, int Index);
+// A note that is higher than its place, while nobody types in it; clamps.
+void ScrollNote(frmMain& Main, int Index, float top);
 void TimerSaveNotes_Timer(frmMain& Main);
 // The word at the foot of a container: "Reminder", "Encrypted" or nothing.
 std::string FootText(const frmMain& Main, int Index);

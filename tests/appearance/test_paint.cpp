@@ -4,6 +4,7 @@
 #include "appearance/drawing_primitives.h"
 #include "appearance/wallpaper.h"
 #include "containers/fold.h"
+#include "containers/gestures.h"
 #include "containers/layout.h"
 #include "containers/measures.h"
 #include "containers/shrink.h"
@@ -323,6 +324,33 @@ TEST_F(Painting, TheFocusIsShownOnceTheKeyboardWasUsed) {
     const auto without = Box(box).Lines.size();
     Main.View.FocusVisible = true;
     EXPECT_EQ(Box(box).Lines.size(), without + 4) << "four edges around it";
+}
+
+TEST_F(Painting, TheFocusOfAShortcutGoesAroundItsIconToo) {
+    File("/letter", OnWorkspace());
+    Main.LinkView(0).lblShortcut.Place = {2000, 1500, 0, 0};
+    (void)Workspace();
+    Main.View.Focus = {ElementKind::lblShortcut, 0};
+    Main.View.FocusSurface = {};
+    const auto without = Workspace().Lines.size();
+    Main.View.FocusVisible = true;
+    const auto canvas = Workspace();
+    ASSERT_EQ(canvas.Lines.size(), without + 4);
+    const float left = IconPlace(Main, 0).Left - 60;
+    const auto& upper = canvas.Lines[without];
+    EXPECT_EQ(upper.substr(0, upper.find(',')), "fill " + std::to_string(static_cast<int>(left)));
+}
+
+TEST_F(Painting, TheFocusOfATileIsSeenInsideIt) {
+    const int box = NewBox("Projects");
+    shapeShrink_Click(Main, box);
+    Main.View.Focus = {ElementKind::ContainerIcon, box};
+    Main.View.FocusSurface = {SurfaceKind::Container, box};
+    const auto without = Box(box).Lines.size();
+    Main.View.FocusVisible = true;
+    const auto canvas = Box(box);
+    ASSERT_EQ(canvas.Lines.size(), without + 4);
+    EXPECT_EQ(canvas.Lines[without].substr(0, 9), "fill 0,0 ");
 }
 
 // -------------------------------------------------------------------------------------- pictures and splash

@@ -70,6 +70,25 @@ TEST_F(Menus, EveryKeyThatALineShowsReallyDoesIt) {
     EXPECT_EQ(desk.Computer.Session.QuitCode, 0);
 }
 
+TEST_F(Menus, ANewContainerStandsWholeInTheWindow) {
+    const auto& back = desk.Main->View.picBack.Place;
+    desk.Main->Group.NewContainerPos = {back.Width - 300, back.Height - 300};
+    desk.PressKey('T', true);
+    const auto& place = desk.Main->ConView(desk.Main->NextContainerIndex - 1).Container.Place;
+    EXPECT_LE(place.Right(), back.Width);
+    EXPECT_LE(place.Bottom(), back.Height);
+}
+
+TEST_F(Menus, ANewContainerDoesNotHideTheOneMadeBeforeIt) {
+    desk.Main->Group.NewContainerPos = {2000, 2000};
+    desk.PressKey('T', true);
+    const auto first = desk.Main->ConView(desk.Main->NextContainerIndex - 1).Container.Place;
+    desk.PressKey('N', true);
+    const auto second = desk.Main->ConView(desk.Main->NextContainerIndex - 1).Container.Place;
+    EXPECT_NE(first.Left, second.Left);
+    EXPECT_NE(first.Top, second.Top);
+}
+
 TEST_F(Menus, AnUnknownNameHasNoEntry) {
     EXPECT_EQ(EntryByName("mnuNobody"), nullptr);
 }

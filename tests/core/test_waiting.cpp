@@ -2,6 +2,7 @@
 // thing starts again.
 #include "containers/lifecycle.h"
 #include "core/menus.h"
+#include "core/splash.h"
 #include "core/start.h"
 #include "dock/docking.h"
 #include "fake/desk.h"
@@ -27,6 +28,18 @@ struct Waiting : testing::Test {
         desk.StartWorkspace();
     }
 };
+
+TEST_F(Waiting, TheSplashDoesNotLieOverAQuestion) {
+    desk.Main->IsLoading = true;
+    desk.Main->Start.NoSplash = false;
+    BeginSplash(*desk.Main);
+    desk.Computer.Clock.Advance(SplashDelay + 1);
+    ShowSplashText(*desk.Main, "Loading Work...");
+    ASSERT_TRUE(desk.Computer.Windows.IsVisible(SplashWindow));
+    desk.Main->IsLoading = false;
+    const DialogPause pause(*desk.Main);
+    EXPECT_FALSE(desk.Computer.Windows.IsVisible(SplashWindow));
+}
 
 TEST_F(Waiting, AContainerThatDiesWhileItsMenuIsOpenIsNotActedOn) {
     desk.Person().OnMenu = [&](const auto&) { DeleteContainer(*desk.Main, 0, false); };

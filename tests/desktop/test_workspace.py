@@ -90,6 +90,16 @@ class Workspace(DesktopTest):
         until(lambda: len(self.app.all_windows()) == 1, "the box goes at Escape")
         self.assertTrue(self.app.running())
 
+    def test_the_keyboard_is_back_in_the_workspace_after_a_box(self):
+        self.keep([files.container("Work", links=files.link("Gone", "/nowhere/at/all"))])
+        other = self.desktop.start("xterm")
+        other.wait_window()
+        self.open()
+        self.desktop.double_click(*self.at(900 + 480, 900 + TITLE_HEIGHT + 400))
+        until(lambda: len(self.app.all_windows()) > 1, "a box says it")
+        self.desktop.key("Escape")
+        until(lambda: self.desktop.has_keyboard(self.window), "the workspace has the keyboard again")
+
     # Containers
 
     def test_folding_and_unfolding_by_the_mark_is_saved(self):
@@ -117,6 +127,20 @@ class Workspace(DesktopTest):
         self.await_saved("Containers/0.REC", "[Shrink]", "1")
 
     # Notes
+
+    def test_a_right_click_into_a_note_pastes_by_menu(self):
+        self.keep([files.container("Work")])
+        self.open()
+        self.desktop.key("ctrl+n")
+        self.desktop.type("once ")
+        self.desktop.key("ctrl+a", "ctrl+c", "End")
+        left, top, _, _ = self.desktop.geometry(self.window)
+        place = (left + 600 // 15 + 100, top + 600 // 15 + 60)
+        self.desktop.click(*place, button=3)
+        until(lambda: len(self.app.all_windows()) > 1, "the note's own menu")
+        self.desktop.key("p")
+        self.desktop.key("F8")
+        until(lambda: "once once" in self.saved("Containers/1.con"), "it is pasted: " + self.saved("Containers/1.con"))
 
     def test_a_typed_note_is_saved_two_seconds_after_the_last_key(self):
         self.keep([files.container("Note", note="before", note_on=1)])

@@ -1,7 +1,9 @@
 #include "notes/notes.h"
 
 #include "containers/fold.h"
+#include "containers/scroll.h"
 #include "containers/workspace_fixture.h"
+#include "core/handlers.h"
 #include "platform/questions.h"
 
 namespace quill {
@@ -27,6 +29,44 @@ TEST_F(Notes, ANewNoteShowsItsTextUnderItsNameAndTakesTheFocus) {
     EXPECT_EQ(Main.Con(0).ShrinkPath, "note.ico");
     EXPECT_EQ(Main.Group.CurrentContainer, 0);
     EXPECT_EQ(KindOf(Main, 0), ContainerKind::Note);
+}
+
+TEST_F(Notes, ALongNoteIsReadToItsLastLineByTheWheelAndNoFurther) {
+    std::string text;
+    for (int line = 0; line < 60; ++line) text += "line\n";
+    ASSERT_TRUE(NewNote(Main, text + "last", "Long", false));
+    ContainerFrame_MouseWheel(Main, 0, -1);
+    const float once = Note(0).ScrollTop;
+    EXPECT_GT(once, 0);
+    ContainerFrame_MouseWheel(Main, 0, -1000);
+    const float furthest = Note(0).ScrollTop;
+    EXPECT_GT(furthest, once);
+    EXPECT_LE(TopOfNote(Main, 0).Paragraph, 60);
+    ContainerFrame_MouseWheel(Main, 0, -1);
+    EXPECT_EQ(Note(0).ScrollTop, furthest);
+    ContainerFrame_MouseWheel(Main, 0, 1000);
+    EXPECT_EQ(Note(0).ScrollTop, 0);
+}
+
+TEST_F(Notes, AShortNoteDoesNotScroll) {
+    ASSERT_TRUE(NewNote(Main, "milk", "Shopping", false));
+    ContainerFrame_MouseWheel(Main, 0, -3);
+    EXPECT_EQ(Note(0).ScrollTop, 0);
+}
+
+TEST_F(Notes, ANoteThatIsLeftShowsWhatItsBoxShowed) {
+    std::string text;
+    for (int line = 0; line < 60; ++line)
+        text += line % 2 ? "words that are too long for one row of it\n" : "x\n";
+    ASSERT_TRUE(NewNote(Main, text, "Long", false));
+    ContainerNote_Scroll(Main, 0, 17, 0);
+    EXPECT_EQ(TopOfNote(Main, 0).Paragraph, 17);
+    EXPECT_EQ(TopOfNote(Main, 0).Above, 0);
+    ContainerNote_Scroll(Main, 0, 17, 30);
+    EXPECT_EQ(TopOfNote(Main, 0).Paragraph, 17);
+    EXPECT_EQ(TopOfNote(Main, 0).Above, 30);
+    SetNoteText(Main, 0, "another");
+    EXPECT_EQ(Note(0).ScrollTop, 0) << "another text begins at its first line";
 }
 
 TEST_F(Notes, AtTheLimitThereIsTheMessageAndNoNote) {

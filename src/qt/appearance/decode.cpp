@@ -1,8 +1,11 @@
 #include "qt/appearance/decode.h"
 
+#include <QFile>
 #include <QImageReader>
 
 #include <algorithm>
+#include <iterator>
+#include <string_view>
 
 namespace quill {
 namespace {
@@ -11,10 +14,42 @@ constexpr int megabytesAtMost = 512; // of decoded pixels
 constexpr int largestSide = 32767;
 constexpr int mostSizes = 64; // in a file that holds an image in several sizes
 
+struct Kind {
+    const char* Format;
+    std::string_view Start; // of the file
+};
+
+constexpr Kind kinds[] = {
+    {"png", "\x89PNG\r\n\x1A\n"},
+    {"jpeg", "\xFF\xD8\xFF"},
+    {"gif", "GIF8"},
+    {"bmp", "BM"},
+    {"ico", {"\0\0\1\0", 4}},
+    {"webp", "RIFF"},
+    {"icns", "icns"},
+    {"svg", "<svg"},
+    {"svg", "<?xml"},
+};
+
+// Told by the first bytes, whatever the file is called. Empty for the rarer kinds: asking every reader
+// whether a file is its own loads them all, with the libraries that they need.
+QByteArray FormatOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return {};
+    const QByteArray head = file.read(16);
+    const std::string_view bytes(head.data(), static_cast<std::size_t>(head.size()));
+    const auto* kind =
+        std::ranges::find_if(kinds, [&](const Kind& it) { return bytes.starts_with(it.Start); });
+    return kind == std::end(kinds) ? QByteArray() : QByteArray(kind->Format);
+}
+
 void Prepare(QImageReader& reader) {
     reader.setAutoTransform(true);
     reader.setAllocationLimit(megabytesAtMost);
-    reader.setDecideFormatFromContent(true);
+    const QByteArray format = FormatOf(reader.fileName());
+    if (format.isEmpty()) return reader.setDecideFormatFromContent(true);
+    reader.setFormat(format);
+    reader.setAutoDetectImageFormat(false);
 }
 
 bool IsTurned(const QImageReader& reader) {
@@ -38,21 +73,29 @@ QImage ForScreen(const QImage& image) {
 }
 
 // The smallest that is large enough, else the largest.
-bool IsBetter(const QImage& image, const QImage& best, int side) {
-    if (best.isNull()) return true;
-    const bool enough = image.width() >= side, hadEnough = best.width() >= side;
+bool IsBetter(int width, int best, int side) {
+    const bool enough = width >= side, hadEnough = best >= side;
     if (enough != hadEnough) return enough;
-    return enough ? image.width() < best.width() : image.width() > best.width();
+    return enough ? width < best : width > best;
 }
 
+QImage ReadAt(QImageReader& reader, int at) {
+    return reader.jumpToImage(at) ? reader.read() : QImage();
+}
+
+// The size of each is told by the head of the file; the others are read only where the best one is damaged.
 QImage BestOfSeveral(QImageReader& reader, int side) {
-    QImage best;
+    int best = -1, width = 0;
     const int count = std::min(reader.imageCount(), mostSizes);
     for (int at = 0; at < count && reader.jumpToImage(at); ++at) {
-        const QImage image = reader.read();
-        if (!image.isNull() && IsBetter(image, best, side)) best = image;
+        const QSize size = reader.size();
+        if (!Sensible(size) || (best >= 0 && !IsBetter(size.width(), width, side))) continue;
+        best = at;
+        width = size.width();
     }
-    return best;
+    QImage image = best >= 0 ? ReadAt(reader, best) : QImage();
+    for (int at = 0; image.isNull() && at < count; ++at) image = ReadAt(reader, at);
+    return image;
 }
 
 QSize Within(QSize size, int side) {

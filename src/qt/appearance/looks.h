@@ -5,6 +5,7 @@
 #include "qt/appearance/icons.h"
 #include "qt/appearance/pictures.h"
 #include "qt/appearance/symbols.h"
+#include "qt/appearance/text_block.h"
 
 namespace quill {
 
@@ -13,6 +14,7 @@ struct Looks {
         : Symbols(symbolFolder), Icons(worker), Pictures(worker) {}
 
     quill::Fonts Fonts;
+    MeasuredText Measured;
     quill::Symbols Symbols;
     quill::Icons Icons;
     quill::Pictures Pictures;

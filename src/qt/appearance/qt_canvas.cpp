@@ -8,11 +8,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace quill {
 namespace {
 
 constexpr float haloOpacity = 0.28F; // of each of the eight copies around a text
+constexpr qreal haloMargin = 4;      // pixels
 
 Qt::Alignment AlignOf(TextAlign align) {
     if (align == TextAlign::Center) return Qt::AlignHCenter;
@@ -37,11 +39,27 @@ Rect WithOverhang(const Rect& place, const TextStyle& style) {
     return {place.Left - more, place.Top - line, place.Width + 2 * more, place.Height + 2 * line};
 }
 
-void DrawHalo(QPainter& painter, const TextBlock& block, QPointF corner, Color color, qreal step) {
+// The text in the halo's colour with a margin around it; letters reach beyond their line.
+QImage HaloCopy(const TextBlock& block, Color color, qreal scale) {
+    const QSizeF size(block.Width() + 2 * haloMargin, block.Height() + 2 * haloMargin);
+    QImage copy((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    if (copy.isNull()) return copy;
+    copy.setDevicePixelRatio(scale);
+    copy.fill(Qt::transparent);
+    QPainter painter(&copy);
     painter.setPen(Ink(color, haloOpacity));
+    block.Draw(painter, {haloMargin, haloMargin});
+    return copy;
+}
+
+// Letters are drawn once and copied, which is quicker than drawing them eight times.
+void DrawHalo(QPainter& painter, const TextBlock& block, QPointF corner, Color color, qreal scale) {
+    const QImage copy = HaloCopy(block, color, scale);
+    const QPointF place = corner - QPointF(haloMargin, haloMargin);
+    const qreal step = std::max(1.0, std::round(scale)) / scale; // whole pixels of the device
     for (const int y : {-1, 0, 1})
         for (const int x : {-1, 0, 1})
-            if (x != 0 || y != 0) block.Draw(painter, corner + QPointF(x * step, y * step));
+            if (x != 0 || y != 0) painter.drawImage(place + QPointF(x * step, y * step), copy);
 }
 
 } // namespace
@@ -57,7 +75,9 @@ Rect QtCanvas::Exposed() const {
 }
 
 void QtCanvas::FillRect(const Rect& place, Color color, float opacity) {
-    if (IsExposed(place)) painter_.fillRect(Snap(place), Ink(color, opacity));
+    if (!IsExposed(place)) return;
+    Smooth(false);
+    painter_.fillRect(Snap(place), Ink(color, opacity));
 }
 
 void QtCanvas::RoundRect(const Rect& place, float radius, Color fill, Pen pen, float opacity) {
@@ -67,12 +87,11 @@ void QtCanvas::RoundRect(const Rect& place, float radius, Color fill, Pen pen, f
     const QRectF line = outer.adjusted(width / 2, width / 2, -width / 2, -width / 2);
     const qreal roundest = std::min(outer.width(), outer.height()) / 2;
     const qreal corner = std::max(0.0, std::min<qreal>(radius / TwipsPerPixel, roundest) - width / 2);
-    painter_.setRenderHint(QPainter::Antialiasing, corner > 0);
+    Smooth(corner > 0);
     painter_.setPen(width > 0 ? QPen(Ink(pen.Ink, opacity), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin)
                               : QPen(Qt::NoPen));
     painter_.setBrush(Ink(fill, opacity));
     painter_.drawRoundedRect(line, corner, corner);
-    painter_.setRenderHint(QPainter::Antialiasing, false);
 }
 
 // Lines along an axis are boxes of whole pixels; only slanted ones are smoothed.
@@ -82,23 +101,28 @@ void QtCanvas::Line(Point from, Point to, Pen pen) {
     if (start.x() == end.x() || start.y() == end.y()) {
         const QRectF box = QRectF(start, end).normalized();
         const QSizeF size(std::max(box.width(), width), std::max(box.height(), width));
+        Smooth(false);
         painter_.fillRect(QRectF(box.topLeft(), size), Ink(pen.Ink));
         return;
     }
-    painter_.setRenderHint(QPainter::Antialiasing, true);
+    Smooth(true);
     painter_.setPen(QPen(Ink(pen.Ink), width, Qt::SolidLine, Qt::RoundCap));
     painter_.drawLine(start, end);
-    painter_.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void QtCanvas::Text(const Rect& place, std::string_view text, const TextStyle& style) {
     if (text.empty() || !IsExposed(WithOverhang(place, style))) return;
-    const TextBlock block(looks_.Fonts.Get(style.Font), quill::Text(text), ShapeOf(place, style));
+    const FontEntry& font = looks_.Fonts.Get(style.Font);
+    const QString shown = quill::Text(text);
+    const BlockShape shape = ShapeOf(place, style);
+    std::optional<TextBlock> fresh;
+    const bool known = looks_.Measured.Is(font, shown, shape);
+    const TextBlock& block = known ? *looks_.Measured.Block : fresh.emplace(font, shown, shape);
     Point corner{place.Left, place.Top};
     if (style.VerticalCenter)
         corner.Y += (place.Height - static_cast<float>(block.Height()) * TwipsPerPixel) / 2;
     const QPointF at = Snap(corner);
-    if (style.Halo) DrawHalo(painter_, block, at, style.HaloColor, 1);
+    if (style.Halo) DrawHalo(painter_, block, at, style.HaloColor, scale_);
     painter_.setPen(Ink(style.Ink));
     block.Draw(painter_, at);
 }
@@ -121,8 +145,10 @@ bool QtCanvas::Picture(const std::string& path, const Rect& place) {
     const QRectF box = Snap(place);
     const QSize device = (box.size() * scale_).toSize();
     const QImage image = looks_.Pictures.Get(quill::Text(path), device, SpotOf(place));
-    if (!image.isNull()) painter_.drawImage(box, image);
-    return !image.isNull();
+    if (image.isNull()) return false;
+    Smooth(false);
+    painter_.drawImage(box, image);
+    return true;
 }
 
 bool QtCanvas::Button(const std::string& path, const Rect& place, Color fallbackInk,
@@ -140,14 +166,14 @@ void QtCanvas::PushClip(const Rect& place, float radius) {
     painter_.save();
     const QRectF box = Snap(place);
     if (radius <= 0) {
+        Smooth(false);
         painter_.setClipRect(box, Qt::IntersectClip);
         return;
     }
     QPainterPath path;
     path.addRoundedRect(box, radius / TwipsPerPixel, radius / TwipsPerPixel);
-    painter_.setRenderHint(QPainter::Antialiasing, true);
+    Smooth(true);
     painter_.setClipPath(path, Qt::IntersectClip);
-    painter_.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void QtCanvas::PopClip() {
@@ -177,11 +203,18 @@ int QtCanvas::DeviceSide(const Rect& place) const {
     return static_cast<int>(std::lround(std::min(place.Width, place.Height) / TwipsPerPixel * scale_));
 }
 
+// Each switch costs the painter as much as a small box; most of what is drawn needs none.
+void QtCanvas::Smooth(bool smooth) {
+    if (painter_.testRenderHint(QPainter::Antialiasing) != smooth)
+        painter_.setRenderHint(QPainter::Antialiasing, smooth);
+}
+
 void QtCanvas::DrawCentered(const QImage& image, const Rect& place) {
     if (image.isNull()) return;
     const QSizeF size = QSizeF(image.size()) / scale_;
     const float left = place.Left + (place.Width - static_cast<float>(size.width()) * TwipsPerPixel) / 2;
     const float top = place.Top + (place.Height - static_cast<float>(size.height()) * TwipsPerPixel) / 2;
+    Smooth(false);
     painter_.drawImage(QRectF(Snap(Point{left, top}), size), image);
 }
 

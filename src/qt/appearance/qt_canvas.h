@@ -35,6 +35,7 @@ private:
     QRectF Snap(const Rect& place) const;
     qreal PenWidth(int pixels) const; // in whole pixels of the device
     int DeviceSide(const Rect& place) const;
+    void Smooth(bool smooth); // for what is drawn next
     void DrawCentered(const QImage& image, const Rect& place);
     Spot SpotOf(const Rect& place) const;
 

@@ -18,7 +18,11 @@ Size QtTexts::MeasureText(const FontSpec& font, std::string_view text, float wra
     BlockShape shape;
     shape.Wrap = wrapWidth > 0;
     if (shape.Wrap) shape.Width = wrapWidth / TwipsPerPixel;
-    const TextBlock block(display_.Get().Looks.Fonts.Get(font), Text(text), shape);
+    auto& looks = display_.Get().Looks;
+    const FontEntry& entry = looks.Fonts.Get(font);
+    const QString shown = Text(text);
+    looks.Measured = {&entry, shown, std::make_unique<TextBlock>(entry, shown, shape)};
+    const auto& block = *looks.Measured.Block;
     return {static_cast<float>(block.Width()) * TwipsPerPixel,
             static_cast<float>(block.Height()) * TwipsPerPixel};
 }

@@ -28,10 +28,15 @@ TextBlock::TextBlock(const FontEntry& font, QString text, const BlockShape& shap
         AddParagraph(font, text.mid(from, end - from), shape);
         from = end + 1;
     }
+    plain_ = paragraphs_.size() == 1 && !shape.Wrap && !shape.Elide && shape.Align == Qt::AlignLeft;
 }
 
 void TextBlock::Draw(QPainter& painter, QPointF corner) const {
     for (const auto& paragraph : paragraphs_) paragraph->draw(&painter, corner);
+}
+
+bool TextBlock::AlsoFits(const BlockShape& shape) const {
+    return plain_ && !shape.Wrap && shape.Align == Qt::AlignLeft && (!shape.Elide || width_ <= shape.Width);
 }
 
 void TextBlock::AddParagraph(const FontEntry& font, const QString& text, const BlockShape& shape) {
@@ -45,6 +50,7 @@ void TextBlock::AddWholeLine(const FontEntry& font, const QString& text, const B
     const auto lay = [&](const QString& shown) {
         auto layout = std::make_unique<QTextLayout>(shown, font.Font);
         layout->setTextOption(Options(shape));
+        layout->setCacheEnabled(true); // or every drawing would shape the text again
         layout->beginLayout();
         auto line = layout->createLine();
         if (line.isValid()) line.setLineWidth(shape.Width);
@@ -61,6 +67,7 @@ void TextBlock::AddWholeLine(const FontEntry& font, const QString& text, const B
 void TextBlock::AddWrapped(const FontEntry& font, const QString& text, const BlockShape& shape) {
     auto layout = std::make_unique<QTextLayout>(text, font.Font);
     layout->setTextOption(Options(shape));
+    layout->setCacheEnabled(true);
     layout->beginLayout();
     const qreal top = height_;
     int lastStart = 0;

@@ -5,6 +5,7 @@
 #include "qt/appearance/fonts.h"
 
 #include <QPainter>
+#include <QString>
 #include <QTextLayout>
 
 #include <limits>
@@ -29,6 +30,9 @@ public:
     qreal Height() const { return height_; } // of all lines
     void Draw(QPainter& painter, QPointF corner) const;
 
+    // What it would be in another box: true when it is one line that fits there and stands where it stood.
+    bool AlsoFits(const BlockShape& shape) const;
+
 private:
     void AddParagraph(const FontEntry& font, const QString& text, const BlockShape& shape);
     void AddWholeLine(const FontEntry& font, const QString& text, const BlockShape& shape);
@@ -39,6 +43,19 @@ private:
     std::vector<std::unique_ptr<QTextLayout>> paragraphs_;
     qreal width_ = 0;
     qreal height_ = 0;
+    bool plain_ = false; // one line, from the left
+};
+
+// The text that was measured last. What is measured because it is seen for the first time is drawn next, and
+// need not be laid out a second time for it.
+struct MeasuredText {
+    const FontEntry* Font = nullptr;
+    QString Text;
+    std::unique_ptr<TextBlock> Block;
+
+    bool Is(const FontEntry& font, const QString& text, const BlockShape& shape) const {
+        return Block && Font == &font && Text == text && Block->AlsoFits(shape);
+    }
 };
 
 } // namespace quill

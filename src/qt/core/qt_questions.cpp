@@ -1,5 +1,6 @@
 #include "qt/core/qt_questions.h"
 
+#include "qt/core/box_text.h"
 #include "qt/core/convert.h"
 #include "qt/core/frmInput.h"
 #include "qt/dock/native_window.h"
@@ -77,7 +78,7 @@ int QtQuestions::MsgBox(const std::string& text, int flags, const std::string& t
     if (open_.IsEnding()) return cancelled;
     QMessageBox box(Owner());
     box.setTextFormat(Qt::PlainText);
-    box.setText(Text(text));
+    box.setText(BoxText(Text(text)));
     box.setWindowTitle(Text(title));
     box.setIcon(IconOf(flags));
     if (flags & BoxSystemModal) box.setWindowFlag(Qt::WindowStaysOnTopHint);
@@ -106,10 +107,14 @@ QWidget* QtQuestions::Owner() const {
     return main.isVisible() ? &main : nullptr;
 }
 
+// The workspace is of a kind to which many window managers do not give the keyboard back by themselves.
 int QtQuestions::Ask(QDialog& dialog) {
     const OpenQuestions::Entry entry(open_, dialog);
-    if (QWidget* owner = Owner()) qt::PrepareDialogAbove(dialog, *owner);
-    return dialog.exec();
+    QWidget* owner = Owner();
+    if (owner != nullptr) qt::PrepareDialogAbove(dialog, *owner);
+    const int answer = dialog.exec();
+    if (owner != nullptr && !open_.IsEnding()) qt::TakeFocus(*owner);
+    return answer;
 }
 
 } // namespace quill

@@ -4,6 +4,7 @@
 #include "core/handlers.h"
 #include "posix/descriptor.h"
 #include "posix/instance_posix.h"
+#include "qt/appearance/font_list.h"
 #include "qt/core/display_check.h"
 #include "qt/dock/x11.h"
 #include "qt/system/memory.h"
@@ -40,6 +41,7 @@ Status QtSession::OpenDisplay() {
     if (parts_.Display.It) return {};
     if (auto there = CheckDisplay(); !there) return there;
     UseOneHeap();
+    FontList fonts; // ready before the first text
     ChoosePlatform();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QGuiApplication::setDesktopFileName(QString::fromLatin1(applicationName));

@@ -102,13 +102,19 @@ bool Stage::eventFilter(QObject* object, QEvent* event) {
 
 void Stage::Apply(const MarkSet& set) {
     if (set.Splash && splash_) splash_->update();
-    if (set.Everything) SyncAll();
+    if (set.Everything)
+        SyncAll();
+    else
+        SyncMarked(set);
+    if (set.Stacking || std::exchange(restack_, false)) Restack();
+    notes_.Follow([this](int index) { return Sync({SurfaceKind::Container, index}); });
+}
+
+void Stage::SyncMarked(const MarkSet& set) {
     for (const int index : set.Containers) SyncContainer(index);
     for (const int index : set.Pictures) Update(Sync({SurfaceKind::Picture, index}));
     for (const int index : set.Notes) Update(Find({SurfaceKind::Container, index}));
     if (set.Workspace) RepaintWorkspace();
-    if (set.Stacking || std::exchange(restack_, false)) Restack();
-    notes_.Follow([this](int index) { return Sync({SurfaceKind::Container, index}); });
 }
 
 void Stage::SyncAll() {

@@ -38,6 +38,7 @@ protected:
 
 private:
     void Apply(const MarkSet& set);
+    void SyncMarked(const MarkSet& set);
     void SyncAll();
     void SyncContainer(int index);
     SurfaceWidget* Sync(SurfaceId id); // made, placed, shown or hidden; null when there is nothing to show

@@ -1,12 +1,17 @@
 #include "qt/dock/splash_widget.h"
 
 #include "appearance/paint.h"
+#include "appearance/palette.h"
 #include "core/frmMain.h"
 #include "qt/appearance/looks.h"
 #include "qt/appearance/qt_canvas.h"
 #include "qt/core/convert.h"
+#include "qt/dock/x11.h"
 
 #include <QPainter>
+#include <QPainterPath>
+#include <QRegion>
+#include <QResizeEvent>
 
 namespace quill {
 
@@ -17,6 +22,15 @@ SplashWidget::SplashWidget(const Attachment& attached, Looks& looks)
     setWindowTitle(QString::fromLatin1(ProgramName));
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground); // its corners are round
+}
+
+// Where nothing mixes windows with what lies behind them, the corners are cut off.
+void SplashWidget::resizeEvent(QResizeEvent*) {
+    if (qt::x11::HasCompositor()) return;
+    constexpr double radius = CornerRadius / TwipsPerPixel;
+    QPainterPath shape;
+    shape.addRoundedRect(rect(), radius, radius);
+    setMask(QRegion(shape.toFillPolygon().toPolygon()));
 }
 
 void SplashWidget::paintEvent(QPaintEvent*) {

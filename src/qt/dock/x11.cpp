@@ -122,6 +122,16 @@ void Flush() {
     if (auto* server = Connection()) xcb_flush(server);
 }
 
+// Only the first screen is asked for: there is hardly a desktop with more than one of the old kind.
+bool HasCompositor() {
+    auto* server = Connection();
+    if (!server) return true;
+    const auto asked = xcb_get_selection_owner(server, Atom("_NET_WM_CM_S0"));
+    const Reply<xcb_get_selection_owner_reply_t> answer(xcb_get_selection_owner_reply(server, asked, nullptr),
+                                                        &std::free);
+    return answer && answer->owner != XCB_NONE;
+}
+
 std::string WindowManagerName() {
     const auto check = Numbers(Root(), "_NET_SUPPORTING_WM_CHECK");
     return check.empty() ? std::string() : Text(check.front(), "_NET_WM_NAME");

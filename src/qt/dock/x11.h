@@ -42,6 +42,9 @@ void Raise(WindowId window);
 // Sends what the toolkit has queued; its own calls from a timer would wait for the next event.
 void Flush();
 
+// Whether the parts of a window that are transparent show what lies behind; without that they are black.
+bool HasCompositor();
+
 // As the window manager calls itself; empty when there is none.
 std::string WindowManagerName();
 

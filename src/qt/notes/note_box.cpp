@@ -8,9 +8,13 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextOption>
 
+#include <cmath>
 #include <utility>
 
 namespace quill {
@@ -55,6 +59,26 @@ void NoteBox::SetColors(const NoteView& note) {
 
 void NoteBox::Changed() {
     if (!taking_ && Alive()) ContainerNote_Change(*attached_.Main, index_, Bytes(toPlainText()));
+}
+
+NoteTop NoteBox::Top() const {
+    const QTextBlock block = firstVisibleBlock();
+    const int lines = verticalScrollBar()->value() - block.firstLineNumber();
+    const double above = lines * QFontMetricsF(document()->defaultFont()).lineSpacing();
+    return {block.blockNumber(), static_cast<float>(above * TwipsPerPixel)};
+}
+
+void NoteBox::ScrollTo(const NoteTop& top) {
+    const double line = QFontMetricsF(document()->defaultFont()).lineSpacing() * TwipsPerPixel;
+    const QTextBlock block = document()->findBlockByNumber(top.Paragraph);
+    verticalScrollBar()->setValue(block.firstLineNumber() + static_cast<int>(std::lround(top.Above / line)));
+}
+
+// A press that the box has no use for is still its own: passed on, it would open the container's menu in
+// place of the one to cut, copy and paste.
+void NoteBox::mousePressEvent(QMouseEvent* event) {
+    QPlainTextEdit::mousePressEvent(event);
+    event->accept();
 }
 
 void NoteBox::keyPressEvent(QKeyEvent* event) {

@@ -2,6 +2,7 @@
 // until the first edit; the box is set only when the text's revision differs.
 #pragma once
 
+#include "notes/notes.h"
 #include "qt/core/attachment.h"
 
 #include <QPlainTextEdit>
@@ -23,8 +24,11 @@ public:
 
     int Index() const { return index_; }
     void TakeOver(const NoteView& note); // text, if its revision differs, and looks
+    NoteTop Top() const;
+    void ScrollTo(const NoteTop& top);
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;

@@ -1,13 +1,12 @@
 #include "qt/notes/note_desk.h"
 
 #include "core/frmMain.h"
+#include "core/handlers.h"
 #include "core/surfaces.h"
+#include "notes/notes.h"
 #include "qt/core/convert.h"
 #include "qt/notes/note_box.h"
 
-#include <QScrollBar>
-
-#include <cmath>
 #include <optional>
 
 namespace quill {
@@ -67,10 +66,8 @@ void NoteDesk::Make(QWidget& surface, int index) {
     box_ = new NoteBox(
         index, attached_, fonts_, [this] { Close(); }, &surface);
     if (!PlaceBox()) return Close();
-    const auto& note = attached_.Main->ConView(index).ContainerNote;
-    const double line = box_->fontMetrics().lineSpacing();
     box_->show();
-    box_->verticalScrollBar()->setValue(static_cast<int>(std::lround(note.ScrollTop / TwipsPerPixel / line)));
+    box_->ScrollTo(TopOfNote(*attached_.Main, index));
 }
 
 // The box may be in the middle of an event of its own.
@@ -78,6 +75,8 @@ void NoteDesk::Close() {
     if (!box_) return;
     NoteBox* box = box_;
     box_ = nullptr;
+    const auto [paragraph, above] = box->Top();
+    if (attached_.Alive()) ContainerNote_Scroll(*attached_.Main, box->Index(), paragraph, above);
     box->hide();
     box->deleteLater();
 }
