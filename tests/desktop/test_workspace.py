@@ -258,6 +258,25 @@ class Workspace(DesktopTest):
         self.assertEqual(sorted(listing.stdout.split()), ["0.con", "Quillmere.ini", "Readme_1st.txt"])
         self.assertTrue(self.app.running())
 
+    def test_ignoring_changes_comes_back_with_what_was_saved(self):
+        self.keep([files.container("Work")])
+        self.open()
+        self.desktop.click(*self.fold_mark(900, 900))
+        self.await_saved("Containers/0.REC", "[Folded]", "1")
+        self.desktop.click(*self.at(9000, 7000), button=3)
+        until(lambda: len(self.app.all_windows()) > 1, "the menu shows")
+        self.desktop.key("i")
+        until(lambda: any(t == "Quillmere" and w != self.window for w, t in zip(self.app.all_windows(), self.titles())), "the question shows")
+        self.app.settle()
+        self.desktop.key("alt+y")
+        self.assertEqual(self.app.wait_exit(), 0)
+        x = self.desktop.x
+        def again():
+            return next((w for w in self.desktop.windows() if self.desktop.title(w) == "Quillmere"), None)
+        window = until(again, "the program is back")
+        os.kill(x.number(window, "_NET_WM_PID"), signal.SIGTERM)
+        self.await_saved("Containers/0.con", "[Folded]", "0")
+
     # Bad input
 
     def test_a_damaged_file_is_told_and_set_aside_before_anything_is_written(self):
