@@ -97,7 +97,9 @@ class WindowKind:
     def test_stands_where_it_was_after_it_was_hidden_and_shown(self):
         rect = PARKED["a stub at the top edge"]
         self.open_space(rect)
-        self.say("hide", "show")
+        self.say("hide")
+        until(lambda: not self.desktop.x.is_viewable(self.space), "it is hidden")
+        self.say("show")
         until(lambda: self.desktop.x.is_viewable(self.space), "it is shown again")
         self.expect_place(rect, "hidden and shown")
 
@@ -292,7 +294,9 @@ class WindowKind:
         until(lambda: skip <= self.desktop.states(space), "no entry")
         self.say("ontop off", "listed on")
         until(lambda: not skip & self.desktop.states(space), "an entry")
-        self.say("hide", "show")
+        self.say("hide")
+        until(lambda: not self.desktop.x.is_viewable(space), "it is hidden")
+        self.say("show")
         until(lambda: self.desktop.x.is_viewable(space), "it is shown again")
         self.assertFalse(skip & self.desktop.states(space))
         self.say("listed off")

@@ -40,7 +40,7 @@ QtSession::~QtSession() {
 Status QtSession::OpenDisplay() {
     if (parts_.Display.It) return {};
     if (auto there = CheckDisplay(); !there) return there;
-    UseOneHeap();
+    UseTwoHeaps();
     FontList fonts; // ready before the first text
     ChoosePlatform();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);

@@ -4,9 +4,9 @@
 
 namespace quill {
 
-void UseOneHeap() {
+void UseTwoHeaps() {
 #ifdef M_ARENA_MAX
-    mallopt(M_ARENA_MAX, 1);
+    mallopt(M_ARENA_MAX, 2);
 #endif
 }
 

@@ -4,7 +4,9 @@
 
 namespace quill {
 
-void UseOneHeap();     // instead of one a thread; before any thread begins
+// Instead of one a thread; before any thread begins. The second one keeps the thread that lists the fonts and
+// the main thread from waiting for each other at every block.
+void UseTwoHeaps();
 void GiveMemoryBack(); // takes a moment; off the thread
 
 } // namespace quill
