@@ -1,4 +1,5 @@
 #include "appearance/colors.h"
+#include "appearance/covers.h"
 #include "appearance/paint_parts.h"
 #include "appearance/palette.h"
 #include "containers/layout.h"
@@ -28,6 +29,21 @@ bool MayBeSeen(const frmMain& Main, int index, const Ground& ground, const Rect&
     place.Left = exposed.Left;
     place.Width = exposed.Width;
     return exposed.Intersects(place);
+}
+
+// All that a shortcut may take on the surface; a caption that was never measured is no wider than a square a
+// letter.
+Rect Reach(const frmMain& Main, int index, const Ground& ground) {
+    const auto& view = Main.LinkView(index);
+    Rect label = LabelPlace(Main, index);
+    const float widest = static_cast<float>(view.lblShortcut.Caption.size()) * view.lblShortcut.FontSize * 20;
+    if (!view.LabelMeasured) label.Width = std::max(label.Width, widest);
+    label = Inset(label, -CaptionReach);
+    const Rect icon = IconPlace(Main, index);
+    const float left = std::min(label.Left, icon.Left), top = std::min(label.Top, icon.Top);
+    const Rect reach{left, top, std::max(label.Right(), icon.Right()) - left,
+                     std::max(label.Bottom(), icon.Bottom()) - top};
+    return Shifted(reach, ground.Origin);
 }
 
 void PaintIcon(frmMain& Main, int index, const Rect& place, Color ink, Canvas& canvas) {
@@ -76,9 +92,12 @@ void PaintShortcut(frmMain& Main, int index, const Ground& ground, Canvas& canva
 } // namespace
 
 void PaintShortcuts(frmMain& Main, const Ground& ground, Canvas& canvas) {
-    for (const auto& row : Live(Main.Shortcuts))
-        if (Stands(Main, row, ground.In) && MayBeSeen(Main, row.Index, ground, canvas.Exposed()))
+    const auto covers = CoversAbove(Main, ground.In);
+    for (const auto& row : Live(Main.Shortcuts)) {
+        if (!Stands(Main, row, ground.In) || !MayBeSeen(Main, row.Index, ground, canvas.Exposed())) continue;
+        if (!IsCovered(covers, Reach(Main, row.Index, ground)))
             PaintShortcut(Main, row.Index, ground, canvas);
+    }
 }
 
 } // namespace quill

@@ -20,6 +20,11 @@
 namespace quill {
 namespace {
 
+int Ask(frmMain& Main, const std::string& text, int flags, const std::string& title = ProgramName) {
+    const DialogPause pause(Main);
+    return Main.P.Questions.MsgBox(text, flags, title);
+}
+
 void StopTimers(frmMain& Main) {
     for (const auto name : {TimerName::TimerDontShrink, TimerName::TimerDblClickLabelDelay,
                             TimerName::TimerSaveNotes, TimerName::TimerRestoreCaption}) {
@@ -64,15 +69,13 @@ void UnloadMain(frmMain& Main) {
 void RestartIgnoringChanges(frmMain& Main) {
     const auto reloader = Main.P.Places.ProgramFolder() + "/Reloader";
     if (!Main.P.Files.Exists(reloader)) {
-        Main.P.Questions.MsgBox(Tr(Main, "Can't find: %1. Please reinstall the program.", reloader),
-                                BoxWarning, ProgramName);
+        Ask(Main, Tr(Main, "Can't find: %1. Please reinstall the program.", reloader), BoxWarning);
         return;
     }
     const auto question = Tr(Main, "Ignore all recent changes and restart the program?");
-    if (Main.P.Questions.MsgBox(question, BoxYesNo | BoxQuestion, ProgramName) != AnswerYes || Main.IsExiting)
-        return;
+    if (Ask(Main, question, BoxYesNo | BoxQuestion) != AnswerYes || Main.IsExiting) return;
     if (const auto started = Main.P.Shell.StartProgram(reloader, {}); !started) {
-        Main.P.Questions.MsgBox(Tr(Main, "Error: %1", started.Error().Text), BoxWarning, ProgramName);
+        Ask(Main, Tr(Main, "Error: %1", started.Error().Text), BoxWarning);
         return;
     }
     // It waits for our end, so there is time to throw the changes away; before it, a start that fails lost
@@ -88,14 +91,13 @@ void mnuClearWorkspace_Click(frmMain& Main) {
         Tr(Main,
            "Reminder: You can always select [Ignore Changes] and revert back to the last time the workspace "
            "was saved, even after clearing the workspace.");
-    const int answer = Main.P.Questions.MsgBox(question, BoxYesNo | BoxQuestion, Tr(Main, "Clear Workspace"));
+    const int answer = Ask(Main, question, BoxYesNo | BoxQuestion, Tr(Main, "Clear Workspace"));
     if (answer == AnswerYes && !Main.IsExiting) ClearWorkspace(Main);
 }
 
 void mnuLoadDefaults_Click(frmMain& Main) {
     const auto question = Tr(Main, "Load the default settings?");
-    const int answer =
-        Main.P.Questions.MsgBox(question, BoxYesNo | BoxQuestion, Tr(Main, "Default Settings"));
+    const int answer = Ask(Main, question, BoxYesNo | BoxQuestion, Tr(Main, "Default Settings"));
     if (answer != AnswerYes || Main.IsExiting) return;
     InitDefaultSettings(Main.Settings);
     LoadWallpaper(Main);

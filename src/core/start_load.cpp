@@ -30,13 +30,18 @@ float NumberOr(const std::optional<std::string>& text, float otherwise) {
     return value;
 }
 
-void RestoreWindow(frmMain& Main, const DeferredSettings& stored) {
-    PlaceMain(Main, FirstPlace(Main)); // what a file does not tell
+// Without [X] the file tells no place.
+void RestorePlace(frmMain& Main, const DeferredSettings& stored) {
     if (!stored.X) return;
     const auto now = Main.View.Window;
     PlaceMain(Main, {NumberOr(stored.X, now.Left), NumberOr(stored.Y, now.Top), NumberOr(stored.W, now.Width),
                      NumberOr(stored.H, now.Height)});
     BringIntoView(Main);
+}
+
+void RestoreWindow(frmMain& Main, const DeferredSettings& stored) {
+    PlaceMain(Main, FirstPlace(Main)); // what a file does not tell
+    RestorePlace(Main, stored);
     if (IsTrue(stored.Maximized)) mnuMaximize_Click(Main);
 }
 

@@ -153,7 +153,7 @@ void ShowNoteAsSaved(frmMain& Main, int Index, const ContainerRecord& record) {
     const bool shown = record.NoteOn && !IsFeed(record);
     ApplyTextColors(Main, Index, record);
     Main.ConView(Index).ContainerNote.Visible = shown;
-    Main.Con(Index).Detached_Note_Visible = shown;
+    Main.Con(Index).Detached_Note_Visible = record.NoteOn; // a feed opens with its list, and keeps the word
     SelectNote(Main, shown, Index);
 }
 

@@ -99,10 +99,16 @@ bool ReadContainer(frmMain& Main, const std::string& path, ContainerRecord& reco
         return true;
     }
     if (!ApplyContainer(Main, record)) return false;
-    if (record.Objects.LeftOut) KeepOlder(Main, path, MaxFileBytes);
+    if (record.Objects.LeftOut) Main.Store.Older.push_back(path);
     const int index = Main.NextContainerIndex - 1;
     if (Main.ConView(index).ContainerLabel.Caption == "#STARTUP") startup.push_back(index);
     return true;
+}
+
+// Only now that the load goes on: one that ends leaves the disk as it is.
+void KeepOlderFiles(frmMain& Main) {
+    for (const auto& path : Main.Store.Older) KeepOlder(Main, path, MaxFileBytes);
+    Main.Store.Older.clear();
 }
 
 // Making and folding them addressed each in turn; nobody has clicked one yet.
@@ -130,7 +136,7 @@ bool ReadSettingsFile(frmMain& Main, const GenerationFiles& files, DeferredSetti
     const auto damage = Named(text, ParseSettings(text.Bytes, record), files.Settings);
     if (damage && !GoOn(Main, DamagedSet::Settings, {*damage})) return false;
     ApplySettings(Main, record, deferred);
-    if (record.Objects.LeftOut) KeepOlder(Main, files.Settings, MaxFileBytes);
+    if (record.Objects.LeftOut) Main.Store.Older.push_back(files.Settings);
     return true;
 }
 
@@ -140,7 +146,9 @@ bool ReadContainerFiles(frmMain& Main, const GenerationFiles& files, std::vector
     for (const auto& path : files.Containers)
         if (!ReadContainer(Main, path, record, startup, found)) return EndLoad(Main);
     ForgetAddressed(Main.Group);
-    return found.empty() || GoOn(Main, DamagedSet::Containers, found);
+    if (!found.empty() && !GoOn(Main, DamagedSet::Containers, found)) return false;
+    KeepOlderFiles(Main);
+    return true;
 }
 
 } // namespace quill

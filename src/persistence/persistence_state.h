@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quill {
 
@@ -25,6 +26,7 @@ struct PersistenceState {
     std::string SaveFailure;        // why the last save failed, for lblCaption; empty = it did not
     std::string StoredEffect = "1"; // [Effect], in place only at the end of the load
     bool ExitSaved = false;         // the exit's own save is over
+    std::vector<std::string> Older; // files in another version that this load has read; full paths
     bool SaveAfterLoad = false;     // something was damaged: a recovery save follows the load at once
     bool Quit = false;              // the load ended the program
     bool BackupRunning = false;     // the zip is being made off the thread

@@ -147,6 +147,18 @@ TEST_F(Exit, ClearingAsksAndWritesNothing) {
     EXPECT_EQ(desk.Files().Dump(desk.Settings("")), before);
 }
 
+TEST_F(Exit, NothingDocksWhileItAsks) {
+    desk.StartWorkspace();
+    std::vector<int> pauses;
+    desk.Person().OnBox = [&](const auto&) { pauses.push_back(desk.Main->Dock.DialogPauses); };
+    for (const auto ask : {&RestartIgnoringChanges, &mnuClearWorkspace_Click, &mnuLoadDefaults_Click}) {
+        desk.Person().Answer(AnswerNo);
+        ask(*desk.Main);
+    }
+    EXPECT_EQ(pauses, (std::vector<int>{1, 1, 1}));
+    EXPECT_EQ(desk.Main->Dock.DialogPauses, 0);
+}
+
 TEST_F(Exit, LoadingTheDefaultsAsksAndPutsThemInPlace) {
     desk.StartWorkspace();
     desk.Main->Settings.OnTop = false;

@@ -1,4 +1,5 @@
 #include "core/caption.h"
+#include "core/splash.h"
 #include "core/start.h"
 #include "fake/desk.h"
 
@@ -18,11 +19,15 @@ std::string Note(const std::string& name, const std::string& text) {
            "\r\n[END Note]\r\n[X]\r\n600\r\n[Y]\r\n600\r\n[W]\r\n3000\r\n[H]\r\n3000\r\n";
 }
 
-std::string StartupContainer(const std::string& name) {
-    return "108\r\n[Container]\r\n-1\r\n[Name]\r\n" + name +
-           "\r\n[Link]\r\n[Size]\r\n10\r\n[LinkX]\r\n100\r\n[LinkY]\r\n240\r\n[LinkLabel]\r\nEditor\r\n["
+std::string Editor(const std::string& path = "/usr/bin/editor") {
+    return "[Link]\r\n[Size]\r\n10\r\n[LinkX]\r\n100\r\n[LinkY]\r\n240\r\n[LinkLabel]\r\nEditor\r\n["
            "LinkType]"
-           "\r\n2\r\n[LinkPath]\r\n/usr/bin/editor\r\n[RunIn]\r\n1\r\n[End Link]\r\n";
+           "\r\n2\r\n[LinkPath]\r\n" +
+           path + "\r\n[RunIn]\r\n1\r\n[End Link]\r\n";
+}
+
+std::string StartupContainer(const std::string& name) {
+    return "108\r\n[Container]\r\n-1\r\n[Name]\r\n" + name + "\r\n" + Editor();
 }
 
 struct Start : testing::Test {
@@ -182,6 +187,53 @@ TEST_F(Start, TheStartupContainerStartsAndItsLowerCaseNamesakeDoesNot) {
     EXPECT_EQ(desk.Computer.Shell.Launches[0].File, "/usr/bin/editor");
 }
 
+TEST_F(Start, WhatStartsWithTheWorkspaceComesInItsOrderAndDoesNotGetInFrontOfIt) {
+    desk.Files().Put(desk.Settings("Quillmere.ini"), Ini("[OnTop]\r\n1\r\n"));
+    desk.Files().Put(desk.Settings("Containers/0.con"), StartupContainer("#STARTUP") + Editor("/usr/bin/a"));
+    bool loading = false;
+    desk.Computer.Shell.OnLaunch = [&](const auto&) { loading = desk.Main->IsLoading; };
+    desk.StartWorkspace();
+    ASSERT_EQ(desk.Computer.Shell.Launches.size(), 2U);
+    EXPECT_EQ(desk.Computer.Shell.Launches[0].File, "/usr/bin/editor");
+    EXPECT_EQ(desk.Computer.Shell.Launches[1].File, "/usr/bin/a");
+    EXPECT_TRUE(loading);
+    EXPECT_TRUE(desk.Computer.Windows.Of(MainWindow).OnTop);
+}
+
+TEST_F(Start, AtTheLimitOfContainersTheProgramEndsAndEveryFileIsStillThere) {
+    desk.Files().Put(desk.Settings("Quillmere.ini"), Ini("[MaxContainers]\r\n2\r\n"));
+    for (const char* name : {"0.con", "1.con", "2.con", "0.REC", "1.REC", "2.REC"})
+        desk.Files().Put(desk.Settings(std::string("Containers/") + name), Note(name, "a"));
+    const auto before = desk.Files().Dump(desk.Settings(""));
+    desk.Person().Answer(AnswerOk);
+    desk.RunProgram({"--nosplash"}, [](frmMain&) { FAIL() << "it runs"; });
+    EXPECT_EQ(
+        desk.Person().LastBox(),
+        "There is a maximum of 2 containers in the workspace. You can manually change it in the .ini file.");
+    EXPECT_EQ(desk.Files().Dump(desk.Settings("")), before);
+}
+
+TEST_F(Start, WhatALoadFoundIsWrittenBackAtTheExit) {
+    const std::string window =
+        "[Hidden]\r\n1\r\n[WindowState]\r\n1\r\n[Maximized]\r\n1\r\n[X]\r\n1500.5\r\n[Y]\r\n-100\r\n"
+        "[W]\r\n9000\r\n[H]\r\n6000\r\n[SUSPEND_AUTO_COLLAPSE]\r\n1\r\n[LOCKED]\r\n1\r\n";
+    const std::string recent = "[Recent 1]\r\nEditor\r\n100\r\n240\r\npicBack\r\n";
+    desk.Files().Put(desk.Settings("Quillmere.ini"), Ini(window + "[Effect]\r\n0\r\n" + recent + Editor()));
+    desk.Files().Put(desk.Settings("Containers/0.con"), Note("first", "a") + "[Flipped]\r\n1\r\n");
+    desk.Files().Put(desk.Settings("Containers/1.con"), Note("second", "b") + "[Folded]\r\n1\r\n");
+    desk.Files().Put(desk.Settings("Containers/2.con"), Note("third", "c") + "[Shrink]\r\n1\r\n");
+    desk.StartWorkspace();
+    desk.ExitWorkspace();
+    const auto ini = desk.Files().Get(desk.Settings("Quillmere.ini"));
+    EXPECT_TRUE(ini.starts_with("108\r\n" + window)) << ini;
+    EXPECT_NE(ini.find("[Effect]\r\n0\r\n"), std::string::npos);
+    EXPECT_NE(ini.find(recent), std::string::npos);
+    const auto written = desk.Files().Dump(desk.Settings(""));
+    desk.StartWorkspace();
+    desk.ExitWorkspace();
+    EXPECT_EQ(desk.Files().Dump(desk.Settings("")), written);
+}
+
 TEST_F(Start, TheWindowStandsWhereItStood) {
     desk.Files().Put(desk.Settings("Quillmere.ini"),
                      Ini("[X]\r\n 1500\r\n[Y]\r\n2250.5\r\n[W]\r\n9000\r\n[H]\r\n6000\r\n"));
@@ -225,6 +277,14 @@ TEST_F(Start, AMaximisedWorkspaceComesBackMaximisedAndRestoresToItsPlace) {
     EXPECT_EQ(desk.Main->View.Window, (Rect{1500, 1500, 9000, 6000}));
 }
 
+TEST_F(Start, AMaximisedWorkspaceWithoutAPlaceIsMaximisedToo) {
+    desk.Files().Put(desk.Settings("Quillmere.ini"), Ini("[Maximized]\r\n1\r\n"));
+    desk.StartWorkspace();
+    EXPECT_TRUE(desk.Main->Dock.Maximized);
+    EXPECT_EQ(desk.Main->View.Window, (Rect{0, 0, 28800, 15750}));
+    EXPECT_EQ(desk.Main->View.RestoreRect, FirstPlace(*desk.Main));
+}
+
 TEST_F(Start, ALockedWorkspaceShowsItsLock) {
     desk.Files().Put(desk.Settings("Quillmere.ini"), Ini("[LOCKED]\r\n1\r\n"));
     desk.StartWorkspace();
@@ -247,6 +307,18 @@ TEST_F(Start, AQuickLoadShowsNoSplash) {
     desk.StartWorkspace({});
     EXPECT_EQ(desk.Computer.Session.SplashesShown, 0);
     EXPECT_FALSE(desk.Computer.Windows.IsVisible(SplashWindow));
+}
+
+TEST_F(Start, WithNosplashEvenALongLoadShowsNone) {
+    for (const auto& switches : {std::vector<std::string>{}, {"/nosplash"}, {"/nosplash", "/backup"}}) {
+        desk.StartWorkspace(switches);
+        desk.Main->IsLoading = true;
+        desk.Wait(SplashDelay + 1);
+        ShowSplashText(*desk.Main, "Loading Work...");
+        EXPECT_EQ(desk.Computer.Windows.IsVisible(SplashWindow), switches.empty());
+        EndSplash(*desk.Main);
+        desk.StopWorkspace();
+    }
 }
 
 TEST_F(Start, AFeedOptionDoesNotStopTheStart) {

@@ -345,6 +345,50 @@ TEST(ContainerFile, AFlippedStateOutlivesEveryOtherState) {
     ExpectWrittenBack(With(flipped, "[Shrink]\n0", "[Shrink]\n1"));
 }
 
+// One text for each way in which the named states can stand together.
+std::vector<std::string> InEveryState(const std::string& text) {
+    struct State {
+        const char *From, *To;
+    };
+    const State states[] = {{"[Folded]\n0", "[Folded]\n1"},
+                            {"[Flipped]\n0", "[Flipped]\n1"},
+                            {"[Shrink]\n0", "[Shrink]\n1"},
+                            {"[NOTE ON]\n0", "[NOTE ON]\n1"},
+                            {"[DetachedConFolded]\n0", "[DetachedConFolded]\n1"},
+                            {"[DetachedUndockOnClick]", "[Detached]\n1\n[DetachedUndockOnClick]"},
+                            {"[Spacebar Flip]", "[HideToolbar]\n1\n[Spacebar Flip]"}};
+    std::vector<std::string> texts{text};
+    for (const auto& state : states)
+        for (std::size_t at = 0, count = texts.size(); at < count; ++at)
+            texts.push_back(With(texts[at], state.From, state.To));
+    return texts;
+}
+
+TEST(ContainerFile, StatesThatStandTogetherAreWrittenBackTogether) {
+    const auto reminder = With(With(Plain, "[ContainerTextBack]\n14810623\n[ContainerTextFor]\n0",
+                                    "[ContainerTextBack]\n2688768\n[ContainerTextFor]\n16777215"),
+                               "[Folded]", "[ReminderV2]\n17\n5\n2026\n12\n31\nat five\n[Folded]");
+    const auto asNarrowAsATile = With(Plain, "[W]\n3000", "[W]\n700");
+    const auto aboveTheWindow = With(Plain, "[Y]\n200", "[Y]\n-1500.5");
+    for (const auto& base : {Plain, Feed, FolderConnector, reminder, asNarrowAsATile, aboveTheWindow}) {
+        for (const auto& text : InEveryState(base)) {
+            const auto says = [&](const char* lines) { return text.find(lines) != std::string::npos; };
+            // A tile that stands in the workspace is never folded.
+            if (says("[Folded]\n1") && says("[Shrink]\n1") && !says("[Detached]\n1")) continue;
+            ExpectWrittenBack(text);
+        }
+    }
+}
+
+TEST(ContainerFile, AFeedOpensWithItsListAndKeepsThatItsNoteWasOn) {
+    Formats loaded;
+    loaded.PutContainer(With(Feed, "[NOTE ON]\n0", "[NOTE ON]\n1"));
+    ASSERT_TRUE(loaded.Load());
+    EXPECT_FALSE(loaded.View(0).PinPressed);
+    EXPECT_FALSE(loaded.View(0).ContainerNote.Visible);
+    EXPECT_EQ(ValueOf(loaded.Written(0), "[NOTE ON]"), "1");
+}
+
 TEST(ContainerFile, AFlippedContainerComesBackToThePlaceAboveItsFoot) {
     Formats loaded;
     loaded.PutContainer(With(Plain, "[Flipped]\n0", "[Flipped]\n1"));

@@ -106,6 +106,17 @@ TEST(Damage, EndingChangesNothingOnTheDisk) {
     }
 }
 
+TEST(Damage, EndingLeavesNoCopyOfAFileInAnotherVersion) {
+    Formats loaded;
+    loaded.PutSettings("107\n[Link]\n[End Link]\n");
+    loaded.PutContainer("107\n[Container]\n-1\n[Link]\n[End Link]\n");
+    loaded.PutContainer("108\n[Container]\n-1\n[X]\nfar\n");
+    const auto before = loaded.Computer.Files.Snapshot();
+    loaded.Computer.Questions.Answer(AnswerNo);
+    EXPECT_FALSE(loaded.Load());
+    EXPECT_EQ(loaded.Computer.Files.Snapshot(), before);
+}
+
 TEST(Damage, ManyDamagedFilesAreAskedAboutOnce) {
     Formats loaded;
     for (int count = 0; count < 8; ++count) loaded.PutContainer("garbage");
