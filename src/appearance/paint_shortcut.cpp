@@ -3,6 +3,7 @@
 #include "appearance/paint_parts.h"
 #include "appearance/palette.h"
 #include "containers/layout.h"
+#include "core/objects.h"
 #include "shortcuts/create.h"
 #include "shortcuts/icons.h"
 
@@ -14,11 +15,6 @@ namespace {
 
 constexpr float OverlayPart = 0.5F;               // of the icon's edge
 constexpr float CaptionReach = 6 * TwipsPerPixel; // of a caption beyond its label
-
-bool Stands(const frmMain& Main, const ShortcutEntry& row, const Parent& in) {
-    const ShortcutView& view = Main.LinkView(row.Index);
-    return view.Visible && view.In == in;
-}
 
 // Captions reach a little beyond the label's own place, the more with a halo. How wide one is that was never
 // measured nobody knows; its line is enough to tell that it is seen.
@@ -93,11 +89,10 @@ void PaintShortcut(frmMain& Main, int index, const Ground& ground, Canvas& canva
 
 void PaintShortcuts(frmMain& Main, const Ground& ground, Canvas& canvas) {
     const auto covers = CoversAbove(Main, ground.In);
-    for (const auto& row : Live(Main.Shortcuts)) {
-        if (!Stands(Main, row, ground.In) || !MayBeSeen(Main, row.Index, ground, canvas.Exposed())) continue;
-        if (!IsCovered(covers, Reach(Main, row.Index, ground)))
-            PaintShortcut(Main, row.Index, ground, canvas);
-    }
+    EachShortcutIn(Main, ground.In, [&](int link) {
+        const bool seen = Main.LinkView(link).Visible && MayBeSeen(Main, link, ground, canvas.Exposed());
+        if (seen && !IsCovered(covers, Reach(Main, link, ground))) PaintShortcut(Main, link, ground, canvas);
+    });
 }
 
 } // namespace quill

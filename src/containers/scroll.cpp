@@ -51,11 +51,9 @@ float TopOfThumb(const frmMain& Main, int Index, float thumbTop) {
 
 float ContentHeight(const frmMain& Main, int Index) {
     float height = 0;
-    for (const auto& row : Live(Main.Shortcuts)) {
-        const auto& link = Main.LinkView(row.Index);
-        if (link.Visible && link.In == InContainer(Index))
-            height = std::max(height, LinkBottom(Main, row.Index));
-    }
+    EachShortcutIn(Main, InContainer(Index), [&](int link) {
+        if (Main.LinkView(link).Visible) height = std::max(height, LinkBottom(Main, link));
+    });
     for (const auto& row : Live(Main.Pictures)) {
         const auto& picture = Main.PicView(row.Index);
         if (picture.In == InContainer(Index)) height = std::max(height, picture.PicContainer.Bottom());

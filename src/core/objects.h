@@ -19,6 +19,14 @@ bool IsFolded(const frmMain& Main, int Index); // its mark is "+"
 int LiveContainers(const frmMain& Main);
 int GetContainerShortcutCount(const frmMain& Main, int Index);
 int WorkspaceShortcutCount(const frmMain& Main);
+// Every live shortcut that lies in a parent. The views are asked first: nearly all lie elsewhere, and the
+// records are the larger table.
+template <class Act> void EachShortcutIn(const frmMain& Main, const Parent& parent, const Act& act) {
+    for (std::size_t at = 0; at < Main.ShortcutViews.size(); ++at) {
+        const auto index = static_cast<std::int32_t>(at);
+        if (Main.ShortcutViews[at].In == parent && IsLive(Main.Shortcuts, index)) act(index);
+    }
+}
 std::string ParentName(const Parent& parent); // "picBack" or "ContainerFrame", as the files write it
 std::string DateText(const frmMain& Main);    // now, in the form of CreationDate and ModifyDate
 
