@@ -9,7 +9,8 @@ packages_for() {
         "libxcb1-dev libglib2.0-dev libzip-dev libgtest-dev" ;;
     run) echo "fonts-dejavu-core breeze-icon-theme qt6-image-formats-plugins" ;;
     virtual) echo "xvfb openbox dbus x11-utils x11-xserver-utils imagemagick" ;;
-    test) echo "python3 xvfb openbox picom dbus xdotool x11-utils x11-xserver-utils imagemagick libxtst6 xterm unzip" ;;
+    test) echo "python3 xvfb openbox picom dbus xdotool x11-utils x11-xserver-utils imagemagick libxtst6 xterm unzip" \
+        "at-spi2-core gir1.2-atspi-2.0 python3-gi" ;;
     check) echo "python3 clang-format" ;;
     bench) echo "python3 xvfb openbox libxdamage1" ;;
     coverage) echo "python3" ;;

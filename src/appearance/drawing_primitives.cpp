@@ -2,48 +2,56 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <optional>
 
 namespace quill {
 
 namespace {
 
-constexpr int TextInset = 3; // pixels between the label's edge and its text
+constexpr int TextInset = 3;    // pixels between the label's edge and its text
+constexpr int SizeMargin = 8;   // pixels, of both sides together, around a text that is measured
+constexpr float CornerAxis = 2.5F; // of the ellipse in a corner, to the radius
 
-TextAlign AlignOf(std::uint8_t alignment) {
-    if (alignment == 0) return TextAlign::Left;
-    return alignment == 2 ? TextAlign::Center : TextAlign::Right;
+float Twips(int pixels) {
+    return static_cast<float>(pixels) * TwipsPerPixel;
 }
 
-// One pixel more than the control each way, so that a border's far lines lie on its edge.
-Rect ClientRect(const EruLabel& label) {
-    return {label.Place.Left, label.Place.Top, label.Place.Width + TwipsPerPixel,
-            label.Place.Height + TwipsPerPixel};
+TextAlign AlignOf(int format) {
+    if (format & FormatCenter) return TextAlign::Center;
+    return format & FormatRight ? TextAlign::Right : TextAlign::Left;
 }
 
-// The border's width counts at the left and top only.
-Rect TextRect(const EruLabel& label) {
-    const Rect client = ClientRect(label);
-    const float near = static_cast<float>(label.BorderWidth + TextInset) * TwipsPerPixel;
-    const float far = static_cast<float>(TextInset) * TwipsPerPixel;
-    return {client.Left + near, client.Top + near, std::max(0.0F, client.Width - near - far),
-            std::max(0.0F, client.Height - near - far)};
-}
-
+// Only the thinnest line can be anything but solid. Style 5 is no line at all.
 Pen BorderPen(const EruLabel& label) {
-    if (label.BorderWidth == 0) return {0, label.BorderColor};
-    return {2 * label.BorderWidth - 1, label.BorderColor};
+    static constexpr PenStyle styles[] = {PenStyle::Solid, PenStyle::Dash, PenStyle::Dot, PenStyle::DashDot,
+                                          PenStyle::DashDotDot};
+    constexpr int noLine = 5;
+    if (label.BorderWidth == 0 || label.BorderStyle == noLine) return {};
+    const bool thin = label.BorderWidth == 1 && label.BorderStyle < std::size(styles);
+    return {2 * label.BorderWidth - 1, label.BorderColor,
+            thin ? styles[label.BorderStyle] : PenStyle::Solid};
+}
+
+// The line runs along the edge, so that of its width one pixel less than half lies beyond and is cut away.
+void PaintBorder(Canvas& canvas, const EruLabel& label) {
+    const Rect client = ClientRect(label);
+    const Pen pen = BorderPen(label);
+    const float beyond = pen.Width > 0 ? Twips(label.BorderWidth - 1) : 0;
+    // The canvas wants half an axis.
+    const float radius = CornerAxis / 2 * Twips(label.BorderRadius);
+    if (beyond > 0) canvas.PushClip(client);
+    canvas.RoundRect({client.Left - beyond, client.Top - beyond, client.Width + 2 * beyond,
+                      client.Height + 2 * beyond},
+                     radius > 0 ? radius + beyond : 0, label.BackColor, pen, label.Opacity);
+    if (beyond > 0) canvas.PopClip();
 }
 
 void PaintGround(Canvas& canvas, const EruLabel& label) {
-    const Rect client = ClientRect(label);
-    if (label.BorderRadius == 0 && label.BorderWidth == 0) {
-        canvas.FillRect(client, label.BackColor, label.Opacity);
-        return;
-    }
-    // Both axes of the corner's ellipse are 2.5 times the radius; the canvas wants half an axis.
-    const float radius = 2.5F * static_cast<float>(label.BorderRadius) / 2 * TwipsPerPixel;
-    canvas.RoundRect(client, radius, label.BackColor, BorderPen(label), label.Opacity);
+    if (label.BorderRadius == 0 && label.BorderWidth == 0)
+        canvas.FillRect(ClientRect(label), label.BackColor, label.Opacity);
+    else
+        PaintBorder(canvas, label);
 }
 
 // What a kind of ramp draws: how far it goes towards white, from where, and in bands of which height.
@@ -69,8 +77,9 @@ int PixelRows(const Rect& place) {
     return static_cast<int>(std::lround(place.Height / TwipsPerPixel));
 }
 
+// The sum is rounded, halves to the even number.
 int Raised(int channel, int step, double fraction) {
-    return channel + static_cast<int>(std::nearbyint(step * fraction));
+    return static_cast<int>(std::nearbyint(channel + step * fraction));
 }
 
 // Colour of the n-th row that is painted; nothing where a channel does not fit a byte any more.
@@ -129,14 +138,43 @@ void FillBand(Canvas& canvas, const Rect& place, Band band, std::optional<Color>
 
 } // namespace
 
+int TextFormatOf(const EruLabel& label) {
+    const int align = label.Alignment == 0 ? FormatLeft : label.Alignment == 2 ? FormatCenter : FormatRight;
+    const int overflow = label.WordWrap ? FormatWordBreak : label.AutoSize ? FormatNoClip : 0;
+    return align | FormatNoPrefix | overflow;
+}
+
+Rect ClientRect(const EruLabel& label) {
+    return {label.Place.Left, label.Place.Top, label.Place.Width + TwipsPerPixel,
+            label.Place.Height + TwipsPerPixel};
+}
+
+Rect TextRect(const EruLabel& label) {
+    const Rect client = ClientRect(label);
+    const float near = Twips(label.BorderWidth + TextInset), far = Twips(TextInset);
+    return {client.Left + near, client.Top + near, std::max(0.0F, client.Width - near - far),
+            std::max(0.0F, client.Height - near - far)};
+}
+
+void SizeLabel(const Texts& texts, EruLabel& label, std::string_view fontName) {
+    if (!label.AutoSize || label.Caption.empty()) return;
+    const float around = Twips(SizeMargin + 2 * label.BorderWidth);
+    const float width = std::max(TwipsPerPixel, label.Place.Width - around);
+    const bool breaks = (TextFormatOf(label) & FormatWordBreak) != 0;
+    const FontSpec font{fontName, label.FontSize, label.FontBold};
+    label.Place.Height = texts.MeasureText(font, label.Caption, breaks ? width : 0).Height + around;
+}
+
 void PaintEruLabel(Canvas& canvas, const EruLabel& label, std::string_view fontName, const TextStyle& extra) {
     if (label.Opacity <= 0 || label.Caption.empty()) return;
     if (label.BackStyle == 1) PaintGround(canvas, label);
+    const int format = TextFormatOf(label);
     TextStyle style = extra;
     style.Font = {fontName, label.FontSize, label.FontBold, extra.Font.Italic, extra.Font.StrikeThrough};
     style.Ink = label.ForeColor;
-    style.Align = AlignOf(label.Alignment);
-    style.WordBreak = label.WordWrap;
+    style.Align = AlignOf(format);
+    style.WordBreak = (format & FormatWordBreak) != 0;
+    style.Clip = (format & FormatNoClip) == 0 && !style.Elide;
     canvas.Text(TextRect(label), label.Caption, style);
 }
 

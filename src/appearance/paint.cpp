@@ -58,6 +58,7 @@ void PaintSurface(frmMain& Main, SurfaceId surface, Canvas& canvas) {
     if (Main.IsExiting) return;
     if (surface.Kind == SurfaceKind::Workspace) PaintWorkspace(Main, canvas);
     if (surface.Kind == SurfaceKind::Container) PaintContainer(Main, surface.Index, canvas);
+    if (surface.Kind == SurfaceKind::Overlay) return PaintOverlay(Main, canvas);
     if (surface.Kind == SurfaceKind::Picture) PaintPicture(Main, surface.Index, canvas);
     PaintFocus(Main, surface, canvas);
 }

@@ -1,10 +1,13 @@
 #include "appearance/colors.h"
 #include "appearance/paint_parts.h"
 #include "appearance/palette.h"
+#include "appearance/round_window.h"
+#include "containers/layout.h"
 #include "containers/measures.h"
 #include "containers/scroll.h"
 #include "core/objects.h"
 #include "notes/notes.h"
+#include "shortcuts/drop_target.h"
 #include "shortcuts/icons.h"
 
 #include <algorithm>
@@ -15,6 +18,7 @@ namespace {
 
 constexpr float HairLine = TwipsPerPixel;
 constexpr float TitleSetOff = 0.35F; // how much of the border's colour the title row takes
+constexpr float TileSetOff = 0.4F;   // how much of the selection's colour a selected tile takes
 constexpr float FootPoints = 8;
 constexpr float TilePadding = 60;
 
@@ -45,13 +49,26 @@ Ground FrameGround(const frmMain& Main, int index) {
     return ground;
 }
 
-// The rim in the border's colour, the rest clipped to what it leaves free; selected ones have a wider rim.
-void BeginBody(const ContainerView& view, Canvas& canvas) {
+// What marks a selected container: the colour of its title where that stands out from the frame.
+Color SelectionGround(const ContainerView& view) {
+    const bool seen = ContrastRatio(view.MarkForeColor, view.FrameBackColor) >= ReadableContrast;
+    return seen ? view.MarkForeColor : ExtremeOn(view.FrameBackColor);
+}
+
+// The title of a selected container is written on its own plate.
+Color TitleInk(const ContainerView& view) {
+    return view.LabelSelected ? ExtremeOn(SelectionGround(view)) : view.MarkForeColor;
+}
+
+// The rim in the border's colour, the rest clipped to what it leaves free; selected ones have a wider rim, and
+// one that would take what is dragged over it the widest.
+void BeginBody(const ContainerView& view, bool target, Canvas& canvas) {
     const Rect body = Body(view);
     const float radius = std::min({CornerRadius, body.Width / 2, body.Height / 2});
-    const float rim = view.LabelSelected ? 2 * HairLine : HairLine;
-    canvas.RoundRect(body, radius, view.LabelSelected ? view.MarkForeColor : view.ContainerBackColor, {});
-    canvas.PushClip(Inset(body, rim), radius - rim);
+    const float rim = (target ? 3 : view.LabelSelected ? 2 : 1) * HairLine;
+    const bool marked = target || view.LabelSelected;
+    canvas.RoundRect(body, radius, marked ? SelectionGround(view) : view.ContainerBackColor, {});
+    RoundWindow(canvas, Inset(body, rim), 2 * (radius - rim) / TwipsPerPixel, 0, 0);
     canvas.FillRect(body, view.FrameBackColor);
 }
 
@@ -59,6 +76,7 @@ void PaintTitleGround(const ContainerView& view, Canvas& canvas) {
     if (!view.ContainerLabel.Visible) return; // the title row is hidden
     const float height = std::min(measures::ContainerTitle, view.Container.Place.Height);
     const Rect row{0, 0, view.Container.Place.Width, height};
+    if (view.LabelSelected) return canvas.FillRect(row, SelectionGround(view));
     canvas.FillRect(row, view.ContainerBackColor, TitleSetOff);
     canvas.FillRect({0, height - HairLine, row.Width, HairLine}, view.ContainerBackColor);
 }
@@ -71,6 +89,11 @@ void PaintLabel(const frmMain& Main, const ContainerView& view, Canvas& canvas) 
     if (!view.ContainerLabel.Visible) return;
     TextStyle style;
     style.Elide = style.VerticalCenter = true;
+    if (view.LabelSelected) {
+        EruLabel label = view.ContainerLabel;
+        label.ForeColor = TitleInk(view);
+        return PaintEruLabel(canvas, label, Main.Settings.FontName, style);
+    }
     if (ContrastRatio(view.ContainerLabel.ForeColor, view.FrameBackColor) < ReadableContrast)
         AddHalo(style, view.ContainerLabel.ForeColor, view.FrameBackColor);
     PaintEruLabel(canvas, view.ContainerLabel, Main.Settings.FontName, style);
@@ -78,15 +101,15 @@ void PaintLabel(const frmMain& Main, const ContainerView& view, Canvas& canvas) 
 
 void PaintPin(const ContainerView& view, Canvas& canvas) {
     if (!view.lblPinNote.Visible) return;
+    const Color ink = TitleInk(view);
     if (view.PinPressed)
-        canvas.RoundRect(Inset(view.lblPinNote.Place, -HairLine), 3 * HairLine, view.MarkForeColor, {},
-                         0.25F);
-    canvas.Symbol("pin-note", view.lblPinNote.Place, view.MarkForeColor, view.PinPressed ? 1.0F : 0.65F);
+        canvas.RoundRect(Inset(view.lblPinNote.Place, -HairLine), 3 * HairLine, ink, {}, 0.25F);
+    canvas.Symbol("pin-note", view.lblPinNote.Place, ink, view.PinPressed ? 1.0F : 0.65F);
 }
 
 void PaintTitle(const frmMain& Main, const ContainerView& view, Canvas& canvas) {
     PaintLabel(Main, view, canvas);
-    const Color ink = view.MarkForeColor;
+    const Color ink = TitleInk(view);
     PaintMark(view.shapeShrink, "shrink", ink, 0.65F, canvas);
     PaintMark(view.shapeTags, "tag", ink, 0.85F, canvas);
     PaintMark(view.shapeNoteIndicator, "note-mark", ink, 0.85F, canvas);
@@ -132,24 +155,21 @@ void PaintScrollBar(const frmMain& Main, int index, const ContainerView& view, C
     canvas.RoundRect(Shifted(ScrollThumb(Main, index), frame), radius, view.MarkForeColor, {}, 0.5F);
 }
 
-// The word at the foot and the strokes in the corner.
-void PaintFoot(const frmMain& Main, int index, const ContainerView& view, Canvas& canvas) {
-    const Rect body = Body(view);
-    const Rect foot{measures::NoteLeft, body.Bottom() - measures::FootHeight,
-                    body.Width - 2 * measures::NoteLeft, measures::FootHeight};
+void PrintReminderOrEncAtBottom(const frmMain& Main, int index, const ContainerView& view, Canvas& canvas) {
     const std::string word = FootText(Main, index);
-    if (!word.empty()) {
-        TextStyle style;
-        style.Font = {Main.Settings.FontName, FootPoints};
-        style.Ink = view.MarkForeColor;
-        style.VerticalCenter = true;
-        canvas.Text(foot, word, style);
-    }
-    const float edge = measures::ResizeMarkFar - measures::ResizeMarkNear + 4 * HairLine;
-    canvas.Symbol("resize-grip",
-                  {body.Width - measures::ResizeMarkNear / 2 - edge,
-                   body.Height - measures::ResizeMarkNear / 2 - edge, edge, edge},
-                  view.MarkForeColor, 0.65F);
+    if (word.empty()) return;
+    TextStyle style;
+    style.Font = {Main.Settings.FontName, FootPoints};
+    style.Ink = view.MarkForeColor;
+    style.VerticalCenter = true;
+    const Rect body = Body(view);
+    canvas.Text({measures::NoteLeft, body.Bottom() - measures::FootHeight,
+                 body.Width - 2 * measures::NoteLeft, measures::FootHeight},
+                word, style);
+}
+
+void DrawResizeSymbol(const ContainerView& view, Canvas& canvas) {
+    canvas.Symbol("resize-grip", ResizeMarkPlace(Body(view)), view.MarkForeColor, 0.65F);
 }
 
 void PaintFrame(frmMain& Main, int index, Canvas& canvas) {
@@ -161,7 +181,8 @@ void PaintFrame(frmMain& Main, int index, Canvas& canvas) {
     if (!view.PinPressed) PaintShortcuts(Main, ground, canvas); // a note covers them
     PaintFeed(Main, index, view, canvas);
     PaintNote(Main, view, canvas);
-    PaintFoot(Main, index, view, canvas);
+    PrintReminderOrEncAtBottom(Main, index, view, canvas);
+    DrawResizeSymbol(view, canvas);
     PaintScrollBar(Main, index, view, canvas);
     canvas.PopClip();
 }
@@ -177,6 +198,7 @@ float IconEdgeFor(float room) {
 void PaintTile(const ContainerView& view, Canvas& canvas) {
     const Rect body = Body(view);
     const float room = std::min(body.Width, body.Height) - 2 * TilePadding;
+    if (view.LabelSelected) canvas.FillRect(body, SelectionGround(view), TileSetOff);
     const Rect place =
         CenteredIn(body, IconEdgeFor(view.IconSmall ? measures::SmallIconPixels * TwipsPerPixel : room));
     if (!canvas.Icon({view.IconFile, {}, IsImageName(view.IconFile)}, place))
@@ -189,7 +211,7 @@ void PaintTile(const ContainerView& view, Canvas& canvas) {
 void PaintContainer(frmMain& Main, int Index, Canvas& canvas) {
     if (!IsLive(Main.Containers, Index)) return;
     const ContainerView& view = Main.ConView(Index);
-    BeginBody(view, canvas);
+    BeginBody(view, IsDropTarget(Main, Index), canvas);
     if (IsShrunk(Main, Index)) {
         PaintTile(view, canvas);
     } else {

@@ -10,6 +10,7 @@ namespace quill {
 
 void PaintWorkspace(frmMain& Main, Canvas& canvas);
 void PaintContainer(frmMain& Main, int Index, Canvas& canvas);
+void PaintOverlay(const frmMain& Main, Canvas& canvas);
 void PaintPicture(frmMain& Main, int Index, Canvas& canvas);
 
 // What lies behind the captions of shortcuts.

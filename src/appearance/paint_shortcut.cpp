@@ -15,6 +15,7 @@ namespace {
 
 constexpr float OverlayPart = 0.5F;               // of the icon's edge
 constexpr float CaptionReach = 6 * TwipsPerPixel; // of a caption beyond its label
+constexpr float PlateRoom = 5 * TwipsPerPixel;    // that a selected caption's plate is wider than the label
 
 // Captions reach a little beyond the label's own place, the more with a halo. How wide one is that was never
 // measured nobody knows; its line is enough to tell that it is seen.
@@ -67,6 +68,7 @@ bool CutToGround(EruLabel& label, const Ground& ground) {
 void PaintCaption(frmMain& Main, EruLabel label, const Ground& ground, Canvas& canvas) {
     TextStyle style;
     style.Elide = CutToGround(label, ground);
+    if (label.BackStyle == 1 && !style.Elide) label.Place.Width += PlateRoom;
     style.VerticalCenter = true;
     const Color behind = GroundAt(ground, label.Place.Top + label.Place.Height / 2);
     const bool readable = !ground.HasPicture && ContrastRatio(label.ForeColor, behind) >= ReadableContrast;
@@ -80,7 +82,7 @@ void PaintShortcut(frmMain& Main, int index, const Ground& ground, Canvas& canva
     const Rect icon = Shifted(Main.LinkView(index).picShortcut, ground.Origin);
     EruLabel label = Main.LinkView(index).lblShortcut;
     label.Place = Shifted(label.Place, ground.Origin);
-    if (canvas.Exposed().Intersects(icon)) PaintIcon(Main, index, icon, label.ForeColor, canvas);
+    if (canvas.Exposed().Intersects(icon)) PaintIcon(Main, index, icon, ShortcutInk(Main, index), canvas);
     if (canvas.Exposed().Intersects(Inset(label.Place, -CaptionReach)))
         PaintCaption(Main, label, ground, canvas);
 }

@@ -27,6 +27,11 @@ void Outline(Canvas& canvas, const Rect& place, Color color, float width, float 
     canvas.FillRect({place.Right() - width, place.Top + width, width, inner}, color, opacity);
 }
 
+Color ExtremeOn(Color ground) {
+    constexpr Color black = 0x000000, white = 0xFFFFFF;
+    return ContrastRatio(ground, black) > ContrastRatio(ground, white) ? black : white;
+}
+
 void AddHalo(TextStyle& style, Color ink, Color ground) {
     const bool light = ContrastRatio(ink, Rgb(0, 0, 0)) > ContrastRatio(ink, Rgb(255, 255, 255));
     style.Halo = true;

@@ -18,6 +18,9 @@ Rect Shifted(const Rect& rect, Point by);
 Rect CenteredIn(const Rect& place, float edge);
 void Outline(Canvas& canvas, const Rect& place, Color color, float width, float opacity = 1);
 
+// Black or white, whichever is read better on this ground; 4.5 to 1 at least.
+Color ExtremeOn(Color ground);
+
 // The halo of a text where its ink alone does not stand out from the ground.
 void AddHalo(TextStyle& style, Color ink, Color ground);
 

@@ -1,5 +1,6 @@
 #include "appearance/wallpaper.h"
 
+#include "appearance/skin.h"
 #include "platform/files.h"
 #include "platform/places.h"
 #include "platform/shell.h"
@@ -8,26 +9,6 @@
 namespace quill {
 
 namespace {
-
-// A name from a file may not lead out of the folder in which it is looked up.
-bool IsOneElement(const std::string& name) {
-    return !name.empty() && name != "." && name != ".." && name.find_first_of("/\\") == std::string::npos &&
-           name.find('\0') == std::string::npos;
-}
-
-bool IsFile(const frmMain& Main, const std::string& path) {
-    const auto info = Main.P.Files.Stat(path);
-    return info && !info.Value().IsFolder;
-}
-
-// Of several names the first that stands in the settings folder's Skin, else in the one that came with the
-// program.
-std::string SkinFile(const frmMain& Main, std::initializer_list<std::string> names) {
-    for (const std::string& folder : {Main.SettingsFolder, Main.P.Places.DataFolder()})
-        for (const std::string& name : names)
-            if (!folder.empty() && IsFile(Main, folder + "/Skin/" + name)) return folder + "/Skin/" + name;
-    return {};
-}
 
 std::string WallpaperPath(const frmMain& Main) {
     const std::string& name = Main.Settings.Wallpaper;

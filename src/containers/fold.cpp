@@ -1,5 +1,7 @@
 #include "containers/fold.h"
 
+#include "appearance/effects.h"
+#include "appearance/tips.h"
 #include "containers/full_size.h"
 #include "containers/layout.h"
 #include "containers/measures.h"
@@ -52,15 +54,23 @@ void Unfold(frmMain& Main, int Index) {
     Lay(Main, Index);
 }
 
+// Only folding has an effect. The title row that is left stays in sight meanwhile.
+void ShowFold(frmMain& Main, int Index, const Rect& open) {
+    Implode(Main, Index, open, Main.ConView(Index).Container.Place, false);
+}
+
 } // namespace
 
-// Only folding has an effect, and effects have no window yet: both ways are immediate.
-void FoldUnfoldContainer(frmMain& Main, int Index, bool /*UseEffect*/) {
+void FoldUnfoldContainer(frmMain& Main, int Index, bool UseEffect) {
     if (!IsLive(Main.Containers, Index)) return;
     const bool folded = IsFolded(Main, Index);
     if (!folded && IsShrunk(Main, Index)) return; // a tile is never folded
+    HideTip(Main);
+    if (Main.Group.ExpandingContainer == Index) EndEffect(Main);
+    const Rect open = Main.ConView(Index).Container.Place;
     Main.Group.CurrentContainer = Index;
     folded ? Unfold(Main, Index) : Fold(Main, Index);
+    if (UseEffect && !folded && FoldEffectWanted(Main)) ShowFold(Main, Index, open);
 }
 
 void AutoFoldContainer(frmMain& Main, int Index) {

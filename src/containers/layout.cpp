@@ -38,6 +38,27 @@ void LayNote(ContainerView& view) {
                                 AtLeastZero(frame.Height - NoteLower)};
 }
 
+// With no title row above it the list takes that room too.
+void LayFeed(frmMain& Main, int Index) {
+    using namespace measures;
+    const auto& container = Main.Con(Index);
+    const auto row = static_cast<std::size_t>(container.RSSListIndex);
+    if (!container.RSS || container.RSSListIndex < 0 || row >= Main.FeedViews.size()) return;
+    const auto& frame = Main.ConView(Index).ContainerFrame.Place;
+    auto& list = Main.FeedViews[row].Place;
+    list = {FeedLeft, NoteTop, AtLeastZero(frame.Width - FeedNarrower),
+            AtLeastZero(frame.Height - NoteLower)};
+    if (!container.HideToolbar) return;
+    list.Left += FeedInward;
+    list.Top += FeedInward - ContainerTitle;
+    list.Height += ContainerTitle - FeedInward;
+}
+
+void LayOpenFrame(frmMain& Main, int Index) {
+    LayNote(Main.ConView(Index));
+    LayFeed(Main, Index);
+}
+
 void ShowTitleRow(ContainerView& view, bool shown, bool tile) {
     view.ContainerLabel.Visible = shown;
     view.lblFoldUnfold.Visible = shown;
@@ -76,7 +97,7 @@ void SetObjectRelativeSize(frmMain& Main, int Index) {
     if (tile)
         LayTile(view);
     else if (!IsFolded(Main, Index))
-        LayNote(view);
+        LayOpenFrame(Main, Index);
     view.ContainerIcon.Visible = tile;
     ShowHideContainerToolbar(Main, Index, !Main.Con(Index).HideToolbar);
     if (!Main.IsLoading) LayScrollBar(Main, Index);
@@ -86,6 +107,12 @@ void DoRoundGradResizeSym(frmMain& Main, int Index, bool /*RedrawResizeMark*/) {
     if (!IsLive(Main.Containers, Index)) return;
     Main.ConView(Index).Gradient = Main.Settings.GradientContainers && !IsShrunk(Main, Index);
     Main.Marks.Container(Index);
+}
+
+Rect ResizeMarkPlace(const Rect& box) {
+    using namespace measures;
+    return {box.Right() - ResizeMarkFromRight - ResizeMarkEdge,
+            box.Bottom() - ResizeMarkFromBottom - ResizeMarkEdge, ResizeMarkEdge, ResizeMarkEdge};
 }
 
 void ShowHideContainerToolbar(frmMain& Main, int Index, bool Show) {

@@ -1,6 +1,7 @@
 #include "containers/lifecycle.h"
 
 #include "appearance/colors.h"
+#include "appearance/effects.h"
 #include "containers/full_size.h"
 #include "containers/layout.h"
 #include "containers/measures.h"
@@ -96,7 +97,8 @@ void ForgetContainer(ContainersState& state, int Index) {
     state.ContainerHasFocus = false;
     for (int* index :
          {&state.ExpandingContainer, &state.LastShrunkBack, &state.AutoFoldContainerIndex,
-          &state.FlipPosition, &state.PressedTile, &state.ResizingContainer, &state.ScrollingContainer}) {
+          &state.FlipPosition, &state.HoverContainer, &state.MouseContainer, &state.DragHoverContainer,
+          &state.PressedTile, &state.ResizingContainer, &state.ScrollingContainer}) {
         Forget(*index, Index);
     }
 }
@@ -119,6 +121,7 @@ void NewGroup(frmMain& Main, bool /*showNow*/, bool& ok) {
 // Files of the user's stay in any case, also those of a folder that is connected here.
 void DeleteContainer(frmMain& Main, int Index, bool /*removeFiles*/) {
     if (!IsLive(Main.Containers, Index)) return;
+    if (Main.Looks.frmExplode.Container == Index) EndEffect(Main);
     ForgetContainer(Main.Group, Index);
     Main.ConView(Index).ContainerNote.Text.clear();
     RemoveFromZorder(Main, {KindContainer, Index});

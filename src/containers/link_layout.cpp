@@ -65,4 +65,16 @@ int GetProperSpacing(int value) {
     return value >= smallestSpacing && value < aboveLargestSpacing ? value : usualSpacing;
 }
 
+int RowSpacing(const frmMain& Main, Parent in) {
+    const bool workspace = in.Kind == ParentKind::picBack;
+    return GetProperSpacing(workspace ? Main.Settings.LineSpacing : Main.Con(in.Index).LineSpacing);
+}
+
+void MarkParent(frmMain& Main, Parent in) {
+    if (in.Kind == ParentKind::ContainerFrame)
+        Main.Marks.Container(in.Index);
+    else
+        Main.Marks.Workspace();
+}
+
 } // namespace quill

@@ -21,6 +21,7 @@ inline constexpr float CaptionNarrower = 1350; // leaves the room of the buttons
 inline constexpr float ButtonEdge = 240;       // 16 pixels, the size that the button sets are drawn for
 inline constexpr float DockFromRight = 16 * 15 + 130;
 inline constexpr float ButtonStep = 320; // from one button to the next at its left
+inline constexpr float GroupFrameBelowTitle = 120;
 
 // --- a container ------------------------------------------------------------------------------------------
 inline constexpr float NewContainerEdge =
@@ -54,20 +55,36 @@ inline constexpr float NoteLeft = 75;
 inline constexpr float NoteTop = 10;
 inline constexpr float NoteNarrower = 150;
 inline constexpr float NoteLower = 400;
+inline constexpr float FeedLeft = 65; // the list has the same margin at both sides
+inline constexpr float FeedNarrower = 130;
+inline constexpr float FeedInward = 10; // of a list that takes the title row's room, from the rounded frame
 inline constexpr float NotePadding = 75;
 inline constexpr float NoteFontSize = 10; // points
 
-inline constexpr float FootHeight = 390;     // words and resize mark, below the note box
-inline constexpr float ResizeHitEdge = 240;  // a hand needs more than the strokes show
-inline constexpr float ResizeMarkNear = 100; // strokes of the mark from the edges
-inline constexpr float ResizeMarkFar = 200;
+inline constexpr float FootHeight = 390;          // words and resize mark, below the note box
+inline constexpr float ResizeHitEdge = 330;       // from the corner: the mark and what a hand misses it by
+inline constexpr float ResizeMarkEdge = 160;      // of the mark itself
+inline constexpr float ResizeMarkFromRight = 130; // clear of the rounded corner
+inline constexpr float ResizeMarkFromBottom = 145;
 
 inline constexpr float ScrollBarWidth = 120;
 inline constexpr float ScrollBarFromRight = 150;
 inline constexpr float ScrollBarTop = 30;
 inline constexpr float ScrollThumbSmallest = 240;
 
-inline constexpr float EdgeGap = 100; // kept free at the workspace's right and lower edge by what opens there
+// --- where an object may stand ----------------------------------------------------------------------------
+inline constexpr float BelowTitleBar = 150; // from the workspace's title row to the first place below it
+inline constexpr float BelowFrameTop = 190; // from the top of a frame
+inline constexpr float LinkExtra = 50;      // a shortcut goes so much further down than anything else
+inline constexpr float EdgeGap = 100; // kept free at an edge by what is brought back from it or opens near it
+inline constexpr float RightmostObject = 700; // what is left of the surface right of an object's left edge
+inline constexpr float LowestObject = 500;    // and below its upper edge
+inline constexpr float LowestLink = 200;
+
+// --- shortcuts in columns ---------------------------------------------------------------------------------
+inline constexpr float ColumnStep = 2400; // from one column of new shortcuts to the next
+inline constexpr float ColumnGap = 200;   // free between the longest label and the icons of the next column
+inline constexpr float ColumnSlack = 240; // labels that stand this far apart still are one column
 
 // --- a tile -----------------------------------------------------------------------------------------------
 inline constexpr int NormalTileWidth = 700; // at exactly this width the icon stands further in

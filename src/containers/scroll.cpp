@@ -50,12 +50,18 @@ float TopOfThumb(const frmMain& Main, int Index, float thumbTop) {
 } // namespace
 
 float ContentHeight(const frmMain& Main, int Index) {
+    return ContentHeight(Main, Index, {});
+}
+
+float ContentHeight(const frmMain& Main, int Index, ObjectRef except) {
     float height = 0;
     EachShortcutIn(Main, InContainer(Index), [&](int link) {
+        if (except == ObjectRef{MovedKind::Shortcut, link}) return;
         if (Main.LinkView(link).Visible) height = std::max(height, LinkBottom(Main, link));
     });
     for (const auto& row : Live(Main.Pictures)) {
         const auto& picture = Main.PicView(row.Index);
+        if (except == ObjectRef{MovedKind::Picture, row.Index}) continue;
         if (picture.In == InContainer(Index)) height = std::max(height, picture.PicContainer.Bottom());
     }
     return height;

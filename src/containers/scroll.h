@@ -2,6 +2,7 @@
 // here draws. ContentHeight and ScrollContainer stand in layout.h.
 #pragma once
 
+#include "containers/boundaries.h"
 #include "core/frmMain.h"
 
 namespace quill {
@@ -10,6 +11,7 @@ struct MouseEvent;
 
 inline constexpr float WheelStep = 465; // twips a notch, three lines of shortcuts at the usual spacing
 
+float ContentHeight(const frmMain& Main, int Index, ObjectRef except); // of all but one object
 void LayScrollBar(frmMain& Main, int Index);      // shows, hides and places VScroll, clamps ScrollTop
 void LayAllScrollBars(frmMain& Main);             // all containers in one walk over the shortcuts
 Rect ScrollThumb(const frmMain& Main, int Index); // in ContainerFrame; empty when there is no bar

@@ -1,7 +1,10 @@
 #include "containers/shrink.h"
 
+#include "appearance/effects.h"
+#include "appearance/tips.h"
 #include "containers/fold.h"
 #include "containers/full_size.h"
+#include "containers/hover.h"
 #include "containers/layout.h"
 #include "containers/lifecycle.h"
 #include "containers/measures.h"
@@ -11,6 +14,7 @@
 #include "platform/clock.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quill {
 namespace {
@@ -58,11 +62,13 @@ void GrabFocus(frmMain& Main, int Index) {
     Main.Marks.Note(Index);
 }
 
-// A menu held another container open: it closes now that a new one takes its place.
-void ShrinkHeldContainer(frmMain& Main, int Index, bool UseEffect) {
-    if (!Main.Group.HoldExpanded) return;
+// Only one container is open for a moment, also when a menu or an effect held the other one. That closes at
+// once, because there is one effect at a time and the new one has it.
+void ShrinkOther(frmMain& Main, int Index) {
     Main.Group.HoldExpanded = false;
-    ShrinkBackContainer(Main, UseEffect);
+    if (Main.Group.ExpandedContainer == -1) return;
+    Main.Group.JustExpanded = false; // that was about the other one
+    ShrinkBackContainer(Main, false);
     Main.Group.CurrentContainer = Index;
     Main.Group.ContainerHasFocus = true;
 }
@@ -74,21 +80,41 @@ void GuardAgainstSameClick(frmMain& Main) {
     Main.P.Clock.Start({TimerName::TimerDontShrink}, dontShrinkTime);
 }
 
+using Effect = void (*)(frmMain&, int, const Rect&, const Rect&);
+
+void RunImplode(frmMain& Main, int Index, const Rect& start, const Rect& end) {
+    Implode(Main, Index, start, end, false);
+}
+
+// It has its final place already; with an effect it stays hidden until that is over. What a tag view hides
+// stays so.
+void ShowAgain(frmMain& Main, int Index, const Rect& start, Effect effect) {
+    auto& shown = Main.ConView(Index).Container;
+    shown.Visible = !effect && !Main.Con(Index).tag;
+    if (effect) effect(Main, Index, start, shown.Place);
+}
+
+// Null when it is shown at once.
+Effect EffectOf(const frmMain& Main, int Index, bool wanted, Effect effect) {
+    return wanted && !Main.Con(Index).tag ? effect : nullptr;
+}
+
 void Expand(frmMain& Main, int Index, bool UseEffect) {
     AddToZorderCollection(Main, {KindContainer, Index}, false);
     if (Main.Group.SuspendAutoExpand) return;
     AutoFoldContainer(Main, Main.Group.AutoFoldContainerIndex);
     Main.Group.CurrentContainer = Index;
     Main.Group.ContainerHasFocus = true;
+    const Rect tile = Main.ConView(Index).Container.Place;
     Main.ConView(Index).Container.Visible = false;
     GrabFocus(Main, Index);
     SetOpenMark(Main, Index);
     TakeFullSize(Main, Index);
     ShowOpen(Main, Index);
-    ShrinkHeldContainer(Main, Index, UseEffect);
+    ShrinkOther(Main, Index);
     Main.Group.ExpandedContainer = Index;
-    Main.ConView(Index).Container.Visible = true;
     GuardAgainstSameClick(Main);
+    ShowAgain(Main, Index, tile, EffectOf(Main, Index, UseEffect && ExplodeWanted(Main), &Explode));
 }
 
 // One that was opened for a moment goes back to its tile's place; any other shrinks where it stands.
@@ -110,8 +136,9 @@ void TakeTileSize(frmMain& Main, int Index) {
     place.Height = static_cast<float>(tile.Height);
 }
 
-void Shrink(frmMain& Main, int Index) {
+void Shrink(frmMain& Main, int Index, bool UseEffect) {
     auto& view = Main.ConView(Index);
+    const Rect full = view.Container.Place;
     Main.Group.ContainerHasFocus = false;
     view.Container.Visible = false;
     Main.Group.LastShrunkBack = Index;
@@ -125,7 +152,13 @@ void Shrink(frmMain& Main, int Index) {
     AddShrinkIcon(Main, Main.Con(Index).ShrinkPath, Index);
     view.ContainerIcon.Visible = true;
     if (Main.Group.ExpandedContainer == Index) Main.Group.ExpandedContainer = -1;
-    view.Container.Visible = true;
+    ForgetShrunkBackIfLeft(Main);
+    ShowAgain(Main, Index, full, EffectOf(Main, Index, UseEffect && ImplodeWanted(Main), &RunImplode));
+}
+
+// Nobody waits for an effect of a window that is going away.
+bool IsGoingAway(const frmMain& Main) {
+    return Main.IsExiting || Main.Dock.DockPosition != 0;
 }
 
 bool CanShrinkBack(const frmMain& Main, int Index) {
@@ -136,19 +169,21 @@ bool CanShrinkBack(const frmMain& Main, int Index) {
 
 } // namespace
 
-// Effects have no window yet: the steps around them are in their order, and each change is shown at once.
 void ExpandShrinkContainer(frmMain& Main, int Index, bool UseEffect) {
     if (!IsLive(Main.Containers, Index)) return;
     const bool shrunk = IsShrunk(Main, Index);
     if (!shrunk && Main.Group.JustExpanded && !Main.IsLoading && !Main.IsExiting) return;
+    HideTip(Main);
+    EndEffect(Main);
     Main.Group.CurrentContainer = Index;
-    shrunk ? Expand(Main, Index, UseEffect) : Shrink(Main, Index);
+    shrunk ? Expand(Main, Index, UseEffect) : Shrink(Main, Index, UseEffect);
     Main.Marks.Container(Index);
 }
 
 void ShrinkBackContainer(frmMain& Main, bool UseEffect) {
     if (Main.Group.HoldExpanded) return;
     Main.Group.LastShrunkBack = -1;
+    if (IsGoingAway(Main)) EndEffect(Main);
     const int index = Main.Group.ExpandedContainer;
     if (CanShrinkBack(Main, index)) ExpandShrinkContainer(Main, index, UseEffect);
 }
@@ -156,6 +191,7 @@ void ShrinkBackContainer(frmMain& Main, bool UseEffect) {
 void TimerDontShrink_Timer(frmMain& Main) {
     Main.P.Clock.Stop({TimerName::TimerDontShrink});
     Main.Group.JustExpanded = false;
+    MouseElsewhere(Main); // it may have left meanwhile
 }
 
 } // namespace quill

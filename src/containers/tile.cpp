@@ -4,6 +4,7 @@
 #include "containers/lifecycle.h"
 #include "containers/measures.h"
 #include "core/objects.h"
+#include "platform/drawing.h"
 #include "platform/files.h"
 #include "shortcuts/create.h"
 
@@ -20,9 +21,14 @@ std::string LastElement(const std::string& path) {
     return cut == std::string::npos ? path : path.substr(cut + 1);
 }
 
+// While loading nobody waits for the head of a file: what can't be read then is drawn as a symbol.
+bool IsPicture(const frmMain& Main, const std::string& path) {
+    return Main.P.Files.Exists(path) && (Main.IsLoading || Main.P.Images.PictureSize(path).Width > 0);
+}
+
 std::string IconFileOf(const frmMain& Main, const std::string& path) {
     const auto full = ExpandDriveMarker(Main, path);
-    if (full.starts_with('/') && Main.P.Files.Exists(full)) return full;
+    if (full.starts_with('/') && IsPicture(Main, full)) return full;
     const auto name = LastElement(path);
     const auto beside = name.empty() ? std::string() : FileBeside(Main, name);
     return beside.empty() ? FileBeside(Main, emptyIcon) : beside;
@@ -73,7 +79,7 @@ void SetContainerShrinkSize(frmMain& Main, int Index, int width, int height) {
     if (!IsLive(Main.Containers, Index)) return;
     const bool isTile = IsShrunk(Main, Index);
     Main.Con(Index).SetShrinkSize(width, height);
-    if (isTile) ApplyTileSize(Main, Index);
+    if (isTile || IsShrunk(Main, Index)) ApplyTileSize(Main, Index);
 }
 
 } // namespace quill

@@ -41,12 +41,22 @@ void LayTitle(WorkspaceView& view, bool locked) {
     view.PicMenu.Place = ButtonPlace(dock - 2 * ButtonStep);
 }
 
+// The frame of grouped shortcuts, in the middle and clear of the title.
+void LayGroupFrame(WorkspaceView& view, bool shown) {
+    auto& frame = view.FrameLinkGroup;
+    frame.Visible = shown;
+    if (!shown) return;
+    frame.Place.Left = AtLeastZero((view.picMoveMe.Place.Width - frame.Place.Width) / 2);
+    frame.Place.Top = view.picMoveMe.Place.Bottom() + measures::GroupFrameBelowTitle;
+}
+
 } // namespace
 
 void ResizeForm(frmMain& Main) {
     auto& view = Main.View;
     view.picBack.Place = BackPlace(view.Window, !Main.Settings.PreventWindowMovement);
     LayTitle(view, Main.Dock.Locked);
+    LayGroupFrame(view, Main.Group.FrameLinkGroup);
     if (Main.IsLoading) LayAllScrollBars(Main); // the readers leave them to the end of the load
     Main.Marks.Workspace();
 }

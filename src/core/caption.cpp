@@ -8,6 +8,8 @@ namespace quill {
 std::string NormalCaption(const frmMain& Main) {
     if (!Main.Store.SaveFailure.empty())
         return Tr(Main, "Can't save the workspace: %1", Main.Store.SaveFailure);
+    const auto selected = Main.Links.SelectedShortcuts.size();
+    if (selected > 1) return Tr(Main, "%1 shortcuts selected", std::to_string(selected));
     return std::string(ProgramName) + " " + ProgramVersion;
 }
 

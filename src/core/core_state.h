@@ -42,6 +42,7 @@ struct WorkspaceView {
     std::string Caption;
     quill::Color CaptionForeColor = 0xFFFFFF;
     Element PicDock, PicLockToolbar, PicUnLockToolbar, PicMenu; // in picMoveMe
+    Element FrameLinkGroup{{}, false}; // on picBack, below the title; sized by what it shows
     bool TitleActive = true;
     std::string WallpaperFile;            // resolved; empty = none
     Size WallpaperSize;                   // natural; 0 by 0 until it is first painted
@@ -52,6 +53,7 @@ struct WorkspaceView {
     ElementId Focus;   // the element that the keyboard is on; Kind None: none
     ElementId Pressed; // the element of the last press, until the release
     SurfaceId PressedSurface;
+    Point PressedAt;           // where on the desktop it was
     SurfaceId FocusSurface;    // and where it lies
     bool FocusVisible = false; // the keyboard was used last, so the focus is shown
 };

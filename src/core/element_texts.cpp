@@ -16,7 +16,7 @@ struct Words {
 constexpr Words table[] = {
     {ElementKind::picBack, Role::Pane, "Workspace", "", ""},
     {ElementKind::picMoveMe, Role::Title, "Title", "", ""},
-    {ElementKind::lblCaption, Role::Title, "", "", ""},
+    {ElementKind::lblCaption, Role::Title, "", "Maximize", ""},
     {ElementKind::PicMenu, Role::Button, "Menu", "Open", "Menu"},
     {ElementKind::PicDock, Role::Button, "Dock", "Dock", "Dock"},
     {ElementKind::PicLockToolbar, Role::Button, "Unlock", "Unlock", "Unlock"},
@@ -29,15 +29,20 @@ constexpr Words table[] = {
     {ElementKind::lblPinNote, Role::Button, "Note", "", ""},
     {ElementKind::shapeShrink, Role::Button, "Shrink", "Shrink", "Shrink/Expand"},
     {ElementKind::shapeTags, Role::Mark, "Shows a tag", "", ""},
-    {ElementKind::shapeNoteIndicator, Role::Mark, "Holds a note", "", ""},
-    {ElementKind::ResizeSymbol, Role::Grip, "Resize", "Resize",
+    {ElementKind::shapeNoteIndicator, Role::Mark, "Holds a note", "Show Note", ""},
+    {ElementKind::ResizeSymbol, Role::Grip, "Resize", "Auto Resize",
      "Right/Middle Click: Auto Resize | Left Click: Drag to manually set the size"},
     {ElementKind::ContainerNote, Role::Note, "", "Edit", ""},
+    {ElementKind::LstRSS, Role::Pane, "", "", ""},
+    {ElementKind::lblRSSLastUpdate, Role::Label, "Last update", "", ""},
     {ElementKind::VScroll, Role::Scroll, "Scroll bar", "", ""},
     {ElementKind::lblShortcut, Role::ListItem, "", "Start", ""},
     {ElementKind::picShortcut, Role::Image, "", "Start", ""},
     {ElementKind::PicContainer, Role::Pane, "", "", ""},
     {ElementKind::PicImage, Role::Image, "", "", ""},
+    {ElementKind::PictureGrip, Role::Grip, "Resize", "", ""},
+    {ElementKind::frmSelection, Role::Mark, "Selection", "", ""},
+    {ElementKind::frmExplode, Role::Mark, "Effect", "", ""},
 };
 
 const Words* WordsOf(ElementKind kind) {
@@ -53,16 +58,23 @@ std::string LastElement(const std::string& path) {
     return path.substr(path.find_last_of("/\\") + 1);
 }
 
+// Nothing that a person meets is without a name.
+std::string FirstName(std::string name, std::string second, std::string last) {
+    if (name.find_first_not_of(' ') != std::string::npos) return name;
+    return second.empty() ? last : second;
+}
+
 void DescribeLink(const frmMain& Main, ElementInfo& info) {
     const auto& link = Main.Link(info.Id.Index);
-    info.Name = link.FullCaption;
+    info.Name = FirstName(link.FullCaption, LastElement(link.Path), Tr(Main, "Shortcut"));
     info.Tip = Main.Settings.ShortcutTooltips ? link.Tip : std::string();
     info.Selected = link.Selected;
+    if (!Main.LinkView(info.Id.Index).lblShortcut.Enabled) info.Action.clear();
 }
 
 void DescribePicture(const frmMain& Main, ElementInfo& info) {
     const auto& picture = Main.Pic(info.Id.Index);
-    info.Name = LastElement(picture.Path);
+    info.Name = FirstName(LastElement(picture.Path), {}, Tr(Main, "Picture"));
     info.Tip = picture.Comment;
 }
 
@@ -79,7 +91,8 @@ void DescribePin(const frmMain& Main, const ContainerView& view, ElementInfo& in
 
 void DescribeContainerPart(const frmMain& Main, ElementInfo& info) {
     const auto& view = Main.ConView(info.Id.Index);
-    if (info.Name.empty()) info.Name = view.ContainerLabel.Caption;
+    if (info.Name.empty())
+        info.Name = FirstName(view.ContainerLabel.Caption, {}, Tr(Main, "Container"));
     info.Selected = view.LabelSelected;
     info.Expanded = view.FoldMark == "-" && !IsShrunk(Main, info.Id.Index);
     switch (info.Id.Kind) {
@@ -95,6 +108,11 @@ void DescribeContainerPart(const frmMain& Main, ElementInfo& info) {
     default:
         break;
     }
+}
+
+void DescribeCaption(const frmMain& Main, ElementInfo& info) {
+    info.Name = FirstName(Main.View.Caption, {}, ProgramName);
+    if (Main.Dock.Maximized) info.Action = Tr(Main, "Restore");
 }
 
 std::string Translated(const frmMain& Main, std::string_view english) {
@@ -115,7 +133,7 @@ ElementInfo DescribeElement(const frmMain& Main, const Spot& spot) {
     info.Action = Translated(Main, words->Action);
     info.Tip = Translated(Main, words->Tip);
     if (spot.Id.Kind == ElementKind::lblCaption)
-        info.Name = Main.View.Caption;
+        DescribeCaption(Main, info);
     else if (IsOfContainer(spot.Id.Kind))
         DescribeContainerPart(Main, info);
     else if (spot.Id.Kind == ElementKind::lblShortcut || spot.Id.Kind == ElementKind::picShortcut)

@@ -140,6 +140,29 @@ template <class Visit> bool Picture(const frmMain& Main, int index, Visit& visit
            Show(visit, ElementKind::PicImage, index, image);
 }
 
+// What shows over everything, the smallest place that holds all of it.
+inline Rect Around(const Rect& one, const Rect& other) {
+    const float left = std::min(one.Left, other.Left), top = std::min(one.Top, other.Top);
+    return {left, top, std::max(one.Right(), other.Right()) - left,
+            std::max(one.Bottom(), other.Bottom()) - top};
+}
+
+inline Rect OverlayPlace(const frmMain& Main) {
+    const auto& band = Main.Group.frmSelection;
+    const auto& effect = Main.Looks.frmExplode;
+    if (!effect.Loaded) return band.Loaded ? band.Place : Rect{};
+    return band.Loaded ? Around(band.Place, effect.Now) : effect.Now;
+}
+
+template <class Visit> bool Overlay(const frmMain& Main, Visit& visit) {
+    const auto corner = OverlayPlace(Main);
+    const auto here = [&](const Rect& place) { return Moved(place, -corner.Left, -corner.Top); };
+    const auto& band = Main.Group.frmSelection;
+    const auto& effect = Main.Looks.frmExplode;
+    return (!effect.Loaded || Show(visit, ElementKind::frmExplode, effect.Container, here(effect.Now))) &&
+           (!band.Loaded || Show(visit, ElementKind::frmSelection, -1, here(band.Place)));
+}
+
 } // namespace walk
 
 // Visits every visible element on a surface; false when the visitor ended the walk.
@@ -151,6 +174,8 @@ template <class Visit> bool WalkElements(const frmMain& Main, SurfaceId surface,
         return !IsLive(Main.Containers, surface.Index) || walk::Container(Main, surface.Index, visit);
     case SurfaceKind::Picture:
         return !IsLive(Main.Pictures, surface.Index) || walk::Picture(Main, surface.Index, visit);
+    case SurfaceKind::Overlay:
+        return walk::Overlay(Main, visit);
     }
     return true;
 }

@@ -33,8 +33,10 @@ constexpr auto names = std::to_array<std::string_view>({
     "PicContainer",
     "PicImage",
     "PictureGrip",
+    "frmSelection",
+    "frmExplode",
 });
-static_assert(names.size() == static_cast<std::size_t>(ElementKind::PictureGrip) + 1);
+static_assert(names.size() == static_cast<std::size_t>(ElementKind::frmExplode) + 1);
 
 bool FrameIsOpen(const frmMain& Main, int container) {
     if (!IsLive(Main.Containers, container)) return false;
@@ -86,6 +88,7 @@ std::vector<SurfaceId> Surfaces(const frmMain& Main) {
         surfaces.push_back(
             {entry.Kind == KindContainer ? SurfaceKind::Container : SurfaceKind::Picture, entry.Index});
     }
+    surfaces.push_back({SurfaceKind::Overlay, -1});
     return surfaces;
 }
 
@@ -97,6 +100,8 @@ Rect PlaceOfSurface(const frmMain& Main, SurfaceId surface) {
         return IsLive(Main.Containers, surface.Index) ? Main.ConView(surface.Index).Container.Place : Rect{};
     case SurfaceKind::Picture:
         return IsLive(Main.Pictures, surface.Index) ? PlaceOfPicture(Main, surface.Index) : Rect{};
+    case SurfaceKind::Overlay:
+        return walk::OverlayPlace(Main);
     }
     return {};
 }
@@ -109,6 +114,8 @@ bool SurfaceVisible(const frmMain& Main, SurfaceId surface) {
         return IsLive(Main.Containers, surface.Index) && Main.ConView(surface.Index).Container.Visible;
     case SurfaceKind::Picture:
         return PictureVisible(Main, surface.Index);
+    case SurfaceKind::Overlay:
+        return Main.Group.frmSelection.Loaded || Main.Looks.frmExplode.Loaded;
     }
     return false;
 }

@@ -1,7 +1,10 @@
 // The way out. Every step stands for itself: what one of them can't do does not keep the next from running.
 #include "core/start.h"
 
+#include "appearance/effects.h"
+#include "appearance/tips.h"
 #include "appearance/wallpaper.h"
+#include "containers/dragging.h"
 #include "containers/layout.h"
 #include "containers/shrink.h"
 #include "core/frmMain.h"
@@ -57,6 +60,9 @@ void UnloadMain(frmMain& Main) {
     if (Main.IsExiting) return;
     Main.IsExiting = true;
     Main.Group.HoldExpanded = false;
+    HideTip(Main);
+    EndEffect(Main); // what is animated does not shrink back
+    CancelContainerDrag(Main);
     ShrinkBackContainer(Main, false);
     SaveWorkspace(Main, false, true);
     StopTimers(Main);

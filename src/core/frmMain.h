@@ -2,6 +2,7 @@
 // can make two workspaces. Routines are free functions that take it first, in the header of their room.
 #pragma once
 
+#include "appearance/appearance_state.h"
 #include "containers/containers_state.h"
 #include "core/core_state.h"
 #include "core/marks.h"
@@ -55,6 +56,7 @@ struct frmMain {
     ContainersState Group; // the containers' room
     ShortcutsState Links;  // the shortcuts' room
     DockState Dock;
+    LooksState Looks;
     PersistenceState Store;
     quill::Marks Marks;
 

@@ -1,9 +1,13 @@
 #include "core/handlers.h"
 
+#include "appearance/tips.h"
+#include "containers/dragging.h"
 #include "containers/fold.h"
 #include "containers/gestures.h"
+#include "containers/hover.h"
 #include "containers/layout.h"
 #include "containers/resize.h"
+#include "containers/rubber_band.h"
 #include "containers/scroll.h"
 #include "containers/shrink.h"
 #include "core/caption.h"
@@ -12,8 +16,11 @@
 #include "core/routes.h"
 #include "core/start.h"
 #include "dock/docking.h"
+#include "dock/frames.h"
 #include "notes/notes.h"
 #include "platform/session.h"
+#include "shortcuts/drags.h"
+#include "shortcuts/drop_target.h"
 #include "shortcuts/launch.h"
 
 #include <algorithm>
@@ -44,9 +51,47 @@ void TimerDblClickLabelDelay_Timer(frmMain& Main) {
 constexpr TimerRow timers[] = {
     {TimerName::TimerDontShrink, &TimerDontShrink_Timer},
     {TimerName::TimerDblClickLabelDelay, &TimerDblClickLabelDelay_Timer},
+    {TimerName::TimerExpandContainer, &TimerExpandContainer_Timer},
+    {TimerName::TimerSuspendAutoExpand, &TimerSuspendAutoExpand_Timer},
+    {TimerName::TimerExpandUnfoldOnDrag, &TimerExpandUnfoldOnDrag_Timer},
+    {TimerName::TimerTip, &TimerTip_Timer},
+    {TimerName::TimerFadeIn, &TipTimerFadeIn_Timer},
+    {TimerName::TimerFadeOut, &TipTimerFadeOut_Timer},
+    {TimerName::TimerMouseMove, &TipTimerMouseMove_Timer},
     {TimerName::TimerSaveNotes, &TimerSaveNotes_Timer},
     {TimerName::TimerRestoreCaption, &TimerRestoreCaption_Timer},
+    {TimerName::TimerScrollOnDrag, &TimerScrollOnDrag_Timer},
 };
+
+// The mouse moves with no button held: tips, and what opens and closes by being pointed at.
+void Hover(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
+    if (surface.Kind == SurfaceKind::Picture) return Picture_MouseMove(Main, surface.Index);
+    if (surface.Kind != SurfaceKind::Container) return MouseElsewhere(Main);
+    const auto hit = ElementAt(Main, surface, event.At);
+    if (hit.Kind == ElementKind::ContainerLabel || hit.Kind == ElementKind::ContainerIcon)
+        ContainerLabel_MouseMove(Main, surface.Index, event);
+    Container_MouseMove(Main, surface.Index, event);
+}
+
+// A held shortcut or picture that leaves the place of its press is carried.
+void DragHeldObject(frmMain& Main, const MouseEvent& event) {
+    const auto pressed = Main.View.Pressed;
+    const bool picture = pressed.Kind == ElementKind::PicContainer || pressed.Kind == ElementKind::PicImage;
+    if (event.Button != MouseButton::Left || !(picture || IsShortcut(pressed.Kind))) return;
+    if (!IsBeyondClick(Main, event.Screen)) return;
+    Main.View.Pressed = {};
+    BeginObjectDrag(Main, {static_cast<std::uint8_t>(picture ? 2 : 1), pressed.Index}, event);
+}
+
+// Another button than the one that drags or draws a band lets go of it, as Escape does.
+bool CancelByOtherButton(frmMain& Main, const MouseEvent& event) {
+    const bool busy = Main.Group.Drag.Moving || Main.Group.frmSelection.Loaded;
+    if (!busy || event.Button == MouseButton::Left) return false;
+    if (Main.Group.Drag.Moving) CancelContainerDrag(Main);
+    UnloadSelection(Main);
+    Main.View.Pressed = {};
+    return true;
+}
 
 bool BeginResizeAt(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (surface.Kind != SurfaceKind::Workspace || event.Button != MouseButton::Left) return false;
@@ -61,10 +106,13 @@ bool BeginResizeAt(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
 void MouseDown(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return;
     HideFocus(Main);
+    HideTip(Main);
+    if (CancelByOtherButton(Main, event)) return;
     Main.Group.PressedTile = -1;
     if (BeginResizeAt(Main, surface, event)) return;
     Main.View.Pressed = ElementAt(Main, surface, event.At);
     Main.View.PressedSurface = surface;
+    Main.View.PressedAt = event.Screen;
     const auto pressed = Main.View.Pressed;
     const auto* route = RouteOf(pressed.Kind);
     if (route && route->Press) route->Press(Main, pressed.Index, event);
@@ -74,6 +122,11 @@ void MouseUp(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return;
     if (Main.Group.ScrollingContainer != -1) return VScroll_MouseUp(Main);
     if (Main.Group.ResizingContainer != -1) return ResizeSymbol_MouseUp(Main, event);
+    if (Main.Group.frmSelection.Loaded && Main.Group.frmSelection.Band) RubberBand_MouseUp(Main, event);
+    if (Main.Group.Drag.Pressed != -1 && ContainerDrag_MouseUp(Main, event)) {
+        Main.View.Pressed = {};
+        return;
+    }
     const auto pressed = Main.View.Pressed;
     const bool same = pressed.Kind != ElementKind::None && SameElement(Main, surface, event);
     Main.View.Pressed = {};
@@ -84,7 +137,10 @@ void MouseUp(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
 }
 
 void MouseDoubleClick(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
-    if (Main.IsLoading || Main.IsExiting || event.Button != MouseButton::Left) return;
+    if (Main.IsLoading || Main.IsExiting) return;
+    // A quick pair that adds to a selection, or of another button, is two clicks.
+    if (event.Ctrl || event.Shift || event.Button != MouseButton::Left)
+        return MouseDown(Main, surface, event);
     if (EndsOpeningClick(Main)) return;
     const auto hit = ElementAt(Main, surface, event.At);
     const auto* route = RouteOf(hit.Kind);
@@ -94,15 +150,40 @@ void MouseDoubleClick(frmMain& Main, SurfaceId surface, const MouseEvent& event)
     route->DoubleClick(Main, hit.Index, event);
 }
 
-void MouseMove(frmMain& Main, SurfaceId, const MouseEvent& event) {
+void MouseMove(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return;
-    if (Main.Group.ScrollingContainer != -1) VScroll_MouseMove(Main, event);
-    if (Main.Group.ResizingContainer != -1) ResizeSymbol_MouseMove(Main, event);
+    if (Main.Group.ScrollingContainer != -1) return VScroll_MouseMove(Main, event);
+    if (Main.Group.ResizingContainer != -1) return ResizeSymbol_MouseMove(Main, event);
+    if (Main.Group.Drag.Pressed != -1) return ContainerDrag_MouseMove(Main, event);
+    if (Main.Group.frmSelection.Loaded) return RubberBand_MouseMove(Main, event);
+    if (event.Button == MouseButton::None) return Hover(Main, surface, event);
+    DragHeldObject(Main, event);
 }
 
-void MouseLeave(frmMain&, SurfaceId) {}
+void MouseLeave(frmMain& Main, SurfaceId surface) {
+    if (Main.IsLoading || Main.IsExiting) return;
+    if (surface.Kind != SurfaceKind::Container) return MouseElsewhere(Main);
+    Tip_MouseLeave(Main, surface.Index);
+    Container_MouseLeave(Main, surface.Index);
+}
+
+DropAnswer DragOver(frmMain& Main, SurfaceId surface, const DragEvent& event, const DragData& data) {
+    if (Main.IsLoading || Main.IsExiting) return DropAnswer::Refused;
+    return DragOverSurface(Main, surface, event, data);
+}
+
+void DragLeave(frmMain& Main, SurfaceId) {
+    if (!Main.IsLoading && !Main.IsExiting) DragLeftSurface(Main);
+}
+
+DropAnswer DragDrop(frmMain& Main, SurfaceId surface, const DragEvent& event, const DragData& data) {
+    if (Main.IsLoading || Main.IsExiting) return DropAnswer::Refused;
+    DragLeftSurface(Main);
+    return DropOnSurface(Main, surface, event, data);
+}
 
 void MouseWheel(frmMain& Main, SurfaceId surface, const MouseEvent&, int steps) {
+    HideTip(Main);
     const bool container = surface.Kind == SurfaceKind::Container && IsLive(Main.Containers, surface.Index);
     if (container) ContainerFrame_MouseWheel(Main, surface.Index, steps);
 }
@@ -114,7 +195,7 @@ void Timer_Tick(frmMain& Main, TimerId timer) {
 }
 
 void Frame_Tick(frmMain& Main) {
-    if (!Main.IsExiting && Main.Dock.FrameHandler) Main.Dock.FrameHandler(Main);
+    if (!Main.IsExiting) StepFrames(Main);
 }
 
 void Form_Moved(frmMain& Main, const Rect& place) {

@@ -5,6 +5,7 @@
 
 #include "core/surfaces.h"
 #include "platform/clock.h"
+#include "platform/drags.h"
 #include "platform/instance.h"
 #include "platform/windows.h"
 
@@ -54,6 +55,16 @@ void MouseMove(frmMain& Main, SurfaceId surface, const MouseEvent& event);
 void MouseUp(frmMain& Main, SurfaceId surface, const MouseEvent& event);
 void MouseDoubleClick(frmMain& Main, SurfaceId surface, const MouseEvent& event);
 void MouseLeave(frmMain& Main, SurfaceId surface);
+// What is carried over a surface, by this program or another. DragOver is asked at each move; whatever it has
+// said last, DragLeave or DragDrop ends it.
+struct DragEvent {
+    Point At;     // twips on the surface
+    Point Screen; // twips on the virtual desktop
+    bool Shift = false, Ctrl = false, Alt = false;
+};
+DropAnswer DragOver(frmMain& Main, SurfaceId surface, const DragEvent& event, const DragData& data);
+void DragLeave(frmMain& Main, SurfaceId surface);
+DropAnswer DragDrop(frmMain& Main, SurfaceId surface, const DragEvent& event, const DragData& data);
 void MouseWheel(frmMain& Main, SurfaceId surface, const MouseEvent& event, int steps); // up is positive
 bool Form_KeyDown(frmMain& Main, const KeyEvent& event); // true when the key was used
 

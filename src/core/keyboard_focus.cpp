@@ -1,7 +1,14 @@
 #include "core/keyboard_focus.h"
 
+#include "appearance/tips.h"
+#include "containers/commands.h"
+#include "containers/dragging.h"
 #include "containers/fold.h"
+#include "containers/gestures.h"
 #include "containers/layout.h"
+#include "containers/resize.h"
+#include "containers/rubber_band.h"
+#include "containers/selection.h"
 #include "containers/shrink.h"
 #include "core/frmMain.h"
 #include "core/menus.h"
@@ -27,9 +34,12 @@ std::vector<FocusPlace> FocusPlaces(const frmMain& Main) {
     return places;
 }
 
-// A shortcut is two elements on the screen and one stop of the keyboard.
+// A shortcut is two elements on the screen and one stop of the keyboard. What only repeats a button or a key
+// is none.
 bool IsStop(const FocusPlace& place) {
-    return place.Element.Id.Kind != ElementKind::picShortcut;
+    const auto kind = place.Element.Id.Kind;
+    return kind != ElementKind::picShortcut && kind != ElementKind::lblCaption &&
+           place.Element.Role != Role::Mark;
 }
 
 void MarkSurface(frmMain& Main, SurfaceId surface) {
@@ -45,23 +55,6 @@ void MarkFocus(frmMain& Main) {
     if (Main.View.Focus.Kind != ElementKind::None) MarkSurface(Main, Main.View.FocusSurface);
 }
 
-void SetFocus(frmMain& Main, const FocusPlace& place) {
-    MarkFocus(Main);
-    Main.View.Focus = place.Element.Id;
-    Main.View.FocusSurface = place.Surface;
-    Main.View.FocusVisible = true;
-    if (place.Surface.Kind == SurfaceKind::Container) {
-        Main.Group.CurrentContainer = place.Surface.Index;
-        Main.Group.ContainerHasFocus = true;
-        // The title row never scrolls.
-        if (place.Element.Id.Kind == ElementKind::lblShortcut)
-            ScrollIntoView(Main, place.Surface.Index, place.Element.Whole);
-    }
-    if (place.Element.Id.Kind == ElementKind::lblShortcut)
-        Main.Links.CurrentShortcut = place.Element.Id.Index;
-    MarkFocus(Main);
-}
-
 Point ScreenPlace(const frmMain& Main, SurfaceId surface, const Rect& element) {
     const auto& back = Main.View.picBack.Place;
     Point place{Main.View.Window.Left + back.Left + element.Left,
@@ -73,74 +66,285 @@ Point ScreenPlace(const frmMain& Main, SurfaceId surface, const Rect& element) {
     return place;
 }
 
-void PopupForFocus(frmMain& Main) {
-    MenuName menu = MenuName::Workspace;
-    if (Main.View.Focus.Kind == ElementKind::lblShortcut)
-        menu = MenuName::Shortcut;
-    else if (Main.View.FocusSurface.Kind == SurfaceKind::Container)
-        menu = MenuName::Container;
-    Rect place{300, 300, 0, 0};
+// The element with the focus, while it is shown; nothing when its object is gone.
+std::optional<ElementInfo> FocusedElement(const frmMain& Main) {
+    std::optional<ElementInfo> found;
+    if (!Main.View.FocusVisible || Main.View.Focus.Kind == ElementKind::None) return found;
     Elements(Main, Main.View.FocusSurface, [&](const ElementInfo& element) {
-        if (element.Id == Main.View.Focus) place = element.Place;
-        return element.Id != Main.View.Focus;
+        if (element.Id == Main.View.Focus) found = element;
+        return !found;
     });
-    const auto surface = Main.View.Focus.Kind == ElementKind::None ? SurfaceId{} : Main.View.FocusSurface;
-    PopupMenu(Main, menu, ScreenPlace(Main, surface, place));
+    return found;
 }
 
-// Back by one step: what is expanded for the moment shrinks, what is unfolded for the moment folds.
-void Escape(frmMain& Main) {
-    if (Main.Group.ExpandedContainer != -1)
-        ShrinkBackContainer(Main, true);
-    else if (Main.Group.AutoFoldContainerIndex != -1)
-        AutoFoldContainer(Main, Main.Group.AutoFoldContainerIndex);
-    else
-        HideFocus(Main);
+// Whether the last thing a hand or a key went to is the current container, so that it is the one meant.
+bool IsContainerMeant(const frmMain& Main) {
+    const SurfaceId surface{SurfaceKind::Container, Main.Group.CurrentContainer};
+    if (!IsLive(Main.Containers, surface.Index)) return false;
+    const bool focused = Main.View.FocusVisible && Main.View.FocusSurface == surface;
+    return focused || Main.Group.ContainerHasFocus || Main.View.PressedSurface == surface;
 }
 
-void NextStop(frmMain& Main) {
-    MoveFocus(Main, true);
-}
-void PreviousStop(frmMain& Main) {
-    MoveFocus(Main, false);
-}
-void Activate(frmMain& Main) {
-    ActivateFocus(Main);
+bool IsShortcutMeant(const frmMain& Main) {
+    const int shortcut = Main.Links.CurrentShortcut;
+    if (!IsLive(Main.Shortcuts, shortcut)) return false;
+    const ElementId label{ElementKind::lblShortcut, shortcut};
+    return Main.Link(shortcut).Selected || (Main.View.FocusVisible && Main.View.Focus == label);
 }
 
-enum Modifiers { Plain = 0, Shift = 1, Ctrl = 2, Alt = 4 };
+// ---- the menu of what the keyboard is on
 
-struct KeyRow {
-    int Code;
-    int Modifiers;
-    void (*Action)(frmMain&);
-    std::string_view Entry; // or the entry of a menu with that name
+struct MenuPlace {
+    MenuName Menu = MenuName::Workspace;
+    SurfaceId Surface;
+    Rect Element{300, 300, 0, 0};
 };
+
+Rect PlaceOn(const frmMain& Main, SurfaceId surface, ElementId id) {
+    Rect place{};
+    Elements(Main, surface, [&](const ElementInfo& element) {
+        if (element.Id == id) place = element.Place;
+        return element.Id != id;
+    });
+    return place;
+}
+
+MenuPlace PlaceOfFocus(const frmMain& Main, const ElementInfo& focused) {
+    MenuPlace place{MenuName::Workspace, Main.View.FocusSurface, focused.Place};
+    if (focused.Id.Kind == ElementKind::lblShortcut)
+        place.Menu = MenuName::Shortcut;
+    else if (place.Surface.Kind == SurfaceKind::Container)
+        place.Menu = MenuName::Container;
+    return place;
+}
+
+MenuPlace PlaceOfMenu(const frmMain& Main) {
+    if (const auto focused = FocusedElement(Main)) return PlaceOfFocus(Main, *focused);
+    if (IsShortcutMeant(Main)) {
+        const auto& in = Main.LinkView(Main.Links.CurrentShortcut).In;
+        const bool framed = in.Kind == ParentKind::ContainerFrame;
+        const SurfaceId surface = framed ? SurfaceId{SurfaceKind::Container, in.Index} : SurfaceId{};
+        const ElementId label{ElementKind::lblShortcut, Main.Links.CurrentShortcut};
+        return {MenuName::Shortcut, surface, PlaceOn(Main, surface, label)};
+    }
+    if (!IsContainerMeant(Main)) return {};
+    const SurfaceId surface{SurfaceKind::Container, Main.Group.CurrentContainer};
+    const auto kind =
+        IsShrunk(Main, surface.Index) ? ElementKind::ContainerIcon : ElementKind::ContainerLabel;
+    return {MenuName::Container, surface, PlaceOn(Main, surface, {kind, surface.Index})};
+}
+
+bool PopupForFocus(frmMain& Main) {
+    const auto place = PlaceOfMenu(Main);
+    PopupMenu(Main, place.Menu, ScreenPlace(Main, place.Surface, place.Element));
+    return true;
+}
+
+// ---- what keys do that is no line of a menu
+
+bool HandIsBusy(const frmMain& Main) {
+    return Main.Group.Drag.Moving || Main.Group.frmSelection.Loaded || Main.Group.ResizingContainer != -1;
+}
+
+bool CancelHand(frmMain& Main) {
+    if (!HandIsBusy(Main)) return false;
+    if (Main.Group.Drag.Moving) CancelContainerDrag(Main);
+    if (Main.Group.frmSelection.Loaded) UnloadSelection(Main);
+    CancelResize(Main);
+    return true;
+}
+
+// What was opened for the moment closes, and what is selected is no longer.
+bool BackToRest(frmMain& Main) {
+    if (Main.Group.ExpandedContainer != -1) ShrinkBackContainer(Main, true);
+    if (Main.Group.AutoFoldContainerIndex != -1) AutoFoldContainer(Main, Main.Group.AutoFoldContainerIndex);
+    UnselectLinks(Main);
+    HideFocus(Main);
+    return true;
+}
+
+bool NextStop(frmMain& Main) {
+    MoveFocus(Main, true);
+    return true;
+}
+bool PreviousStop(frmMain& Main) {
+    MoveFocus(Main, false);
+    return true;
+}
+template <Direction Way, bool Extend> bool Arrow(frmMain& Main) {
+    return StepToShortcut(Main, Way, Extend);
+}
+constexpr int keyStep = 150; // twips that a key moves or resizes containers by
+// What the keyboard is on moves: a shortcut, or else the container.
+template <int X, int Y> bool MoveByKey(frmMain& Main) {
+    const auto focused = FocusedElement(Main);
+    if (focused && focused->Id.Kind == ElementKind::lblShortcut)
+        return MoveShortcutsByKey(Main, X * keyStep, Y * keyStep), true;
+    if (!IsContainerMeant(Main)) return false;
+    MoveContainersByKey(Main, X * keyStep, Y * keyStep);
+    return true;
+}
+template <int X, int Y> bool ResizeByKey(frmMain& Main) {
+    if (!IsContainerMeant(Main)) return false;
+    ResizeContainersByKey(Main, X * keyStep, Y * keyStep);
+    return true;
+}
+bool ToggleFocused(frmMain& Main) {
+    const auto focused = FocusedElement(Main);
+    if (focused) ToggleSelection(Main, Main.View.FocusSurface, focused->Id);
+    return focused.has_value();
+}
+bool PressButton(frmMain& Main) {
+    const auto focused = FocusedElement(Main);
+    return focused && focused->Role == Role::Button && ActivateFocus(Main);
+}
+
+constexpr int keyPlus = 187, keyMinus = 189;
 
 constexpr KeyRow keys[] = {
     {KeyTab, Plain, &NextStop, {}},
     {KeyTab, Shift, &PreviousStop, {}},
+    {KeyLeft, Plain, &Arrow<Direction::Left, false>, {}},
+    {KeyUp, Plain, &Arrow<Direction::Up, false>, {}},
+    {KeyRight, Plain, &Arrow<Direction::Right, false>, {}},
+    {KeyDown, Plain, &Arrow<Direction::Down, false>, {}},
+    {KeyLeft, Shift, &Arrow<Direction::Left, true>, {}},
+    {KeyUp, Shift, &Arrow<Direction::Up, true>, {}},
+    {KeyRight, Shift, &Arrow<Direction::Right, true>, {}},
+    {KeyDown, Shift, &Arrow<Direction::Down, true>, {}},
     {KeyDown, Plain, &NextStop, {}},
     {KeyUp, Plain, &PreviousStop, {}},
-    {KeyReturn, Plain, &Activate, {}},
-    {KeySpace, Plain, &Activate, {}},
-    {KeyEscape, Plain, &Escape, {}},
+    {KeyLeft, Ctrl, &MoveByKey<-1, 0>, {}},
+    {KeyUp, Ctrl, &MoveByKey<0, -1>, {}},
+    {KeyRight, Ctrl, &MoveByKey<1, 0>, {}},
+    {KeyDown, Ctrl, &MoveByKey<0, 1>, {}},
+    {KeyLeft, Ctrl | Shift, &ResizeByKey<-1, 0>, {}},
+    {KeyUp, Ctrl | Shift, &ResizeByKey<0, -1>, {}},
+    {KeyRight, Ctrl | Shift, &ResizeByKey<1, 0>, {}},
+    {KeyDown, Ctrl | Shift, &ResizeByKey<0, 1>, {}},
+    {KeyReturn, Plain, &ActivateFocus, {}},
+    {KeyReturn, Plain, nullptr, "mnuStart"},
+    {KeySpace, Ctrl, &ToggleFocused, {}},
+    {KeySpace, Plain, &PressButton, {}},
+    {KeySpace, Plain, nullptr, "mnuFlipForward"},
+    {KeySpace, Shift, nullptr, "mnuFlipBackward"},
+    {KeyEscape, Plain, &CancelHand, {}},
+    {KeyEscape, Plain, nullptr, "mnuConUnselectAll"},
+    {KeyEscape, Plain, &BackToRest, {}},
     {KeyMenu, Plain, &PopupForFocus, {}},
     {KeyF10, Shift, &PopupForFocus, {}},
-    {KeyF1 + 7, Plain, nullptr, "mnuSave"},
-    {KeyF1 + 10, Plain, nullptr, "mnuMaximize"},
-    {KeyF1 + 3, Alt, nullptr, "mnuExitMainWin"},
-    {'L', Ctrl, nullptr, "mnuLock"},
+
+    {'A', Ctrl, nullptr, "mnuSelectShortcuts(0)"},
+    {'I', Alt, nullptr, "mnuSelectShortcuts(2)"},
+    {'I', Alt | Shift, nullptr, "mnuConInvertSelection"},
+    {'Z', Ctrl, nullptr, "mnuUndoRedo(0)"},
+    {'Y', Ctrl, nullptr, "mnuUndoRedo(1)"},
+    {KeyDelete, Ctrl | Shift, nullptr, "mnuClearUndoRedoBuffer"},
+    {'A', Alt, nullptr, "mnuSortShortcuts(0)"},
+    {'D', Alt, nullptr, "mnuSortShortcuts(1)"},
+    {'P', Alt, nullptr, "mnuLineSpacing"},
+    {'G', Alt, nullptr, "mnuAlign"},
+    {keyPlus, Ctrl, nullptr, "MakeIconsLarger"},
+    {keyPlus, Ctrl | Shift, nullptr, "MakeIconsLarger"}, // where "+" is typed with Shift
+    {keyMinus, Ctrl, nullptr, "MakeIconsSmaller"},
+    {'Z', Alt, nullptr, "MakeIconsSizeDifferent"},
+    {KeyF1 + 4, Shift, nullptr, "mnuRefresh"},
+
     {'N', Ctrl, nullptr, "mnuNewNote"},
     {'T', Ctrl, nullptr, "mnuNew"},
+    {KeyF1 + 7, Plain, nullptr, "mnuSave"},
+    {KeyF1 + 7, Ctrl, nullptr, "mnuBackup"},
+    {'L', Ctrl, nullptr, "mnuLock"},
+    {'T', Ctrl | Shift, nullptr, "mnuOnTop"},
+    {'L', Ctrl | Shift, nullptr, "mnuPreventWindowMovement"},
+    {KeyF1 + 10, Plain, nullptr, "mnuMaximize"},
+    {KeyF1 + 10, Plain, nullptr, "mnuRestore"},
+    {KeyF1 + 7, Ctrl | Shift, nullptr, "mnuIgnoreChanges"},
+    {KeyF1 + 3, Ctrl | Shift, nullptr, "mnuClearWorkspace"},
+    {KeyF1 + 4, Ctrl | Shift, nullptr, "mnuLoadDefaults"},
+    {KeyF1, Shift, nullptr, "mnuHelpItem"},
+    {KeyF1 + 3, Alt, nullptr, "mnuExitMainWin"},
+
+    {'F', Alt, nullptr, "mnuConFold"},
+    {'F', Alt, nullptr, "mnuConUnfold"},
+    {'X', Alt, nullptr, "mnuConShrink"},
+    {'X', Alt, nullptr, "mnuConExpand"},
+    {'K', Alt, nullptr, "mnuConKeepExpanded"},
+    {'W', Alt, nullptr, "mnuConSwitchPlaces"},
+    {'M', Alt, nullptr, "mnuSetContainerSize"},
+    {'T', Alt, nullptr, "mnuAlignContainers(0)"},
+    {'L', Alt, nullptr, "mnuAlignContainers(1)"},
+    {'E', Alt, nullptr, "mnuAlignContainers(2)"},
+    {'N', Alt, nullptr, "mnuConShowNote"},
+    {'N', Alt, nullptr, "mnuConHideNote"},
+    {'S', Alt, nullptr, "mnuStartAll"},
+    {KeyDelete, Ctrl, nullptr, "mnuConRemove"},
+    {KeyReturn, Alt, nullptr, "mnuConProperties"},
+
+    {KeyReturn, Shift, nullptr, "mnuStartInBackground"},
     {KeyReturn, Ctrl, nullptr, "mnuStartAdmin"},
+    {KeyReturn, Ctrl | Shift, nullptr, "mnuStartWithoutParameters"},
 };
+
+// In a field that edits text its own keys are the field's.
+constexpr std::string_view editingLetters = "ACVXYZ";
+
+bool BelongsToField(const KeyEvent& event) {
+    if (!event.InTextField || (event.Code >= KeyF1 && event.Code <= KeyF12)) return false;
+    if (event.Code < '0' || event.Code == KeyMenu || !(event.Ctrl || event.Alt)) return true;
+    return event.Ctrl && !event.Alt &&
+           editingLetters.find(static_cast<char>(event.Code)) != std::string::npos;
+}
 
 bool Reaches(const KeyRow& row, const KeyEvent& event) {
     const int modifiers = (event.Shift ? Shift : 0) | (event.Ctrl ? Ctrl : 0) | (event.Alt ? Alt : 0);
-    if (row.Code != event.Code || row.Modifiers != modifiers) return false;
-    const bool functionKey = event.Code >= KeyF1 && event.Code <= KeyF12;
-    return !event.InTextField || functionKey || (event.Code >= 'A' && (event.Ctrl || event.Alt));
+    return row.Code == event.Code && row.Modifiers == modifiers;
+}
+
+// ---- lines of menus, by their key
+
+// What is selected comes before what was the last current one.
+bool AddressContainer(frmMain& Main) {
+    const auto selected = SelectedContainers(Main);
+    if (selected.empty()) return IsContainerMeant(Main);
+    if (std::ranges::find(selected, Main.Group.CurrentContainer) == selected.end())
+        Main.Group.CurrentContainer = selected.front();
+    return true;
+}
+
+bool Address(frmMain& Main, MenuName menu) {
+    if (menu == MenuName::Container) return AddressContainer(Main);
+    return menu != MenuName::Shortcut || IsShortcutMeant(Main);
+}
+
+// The focus stays on a container that a key has changed: the next key means it again, and it can be seen.
+void FocusContainer(frmMain& Main, int Index) {
+    if (Main.IsExiting || !IsLive(Main.Containers, Index)) return;
+    const SurfaceId surface{SurfaceKind::Container, Index};
+    if (!SurfaceVisible(Main, surface) || (Main.View.FocusSurface == surface && FocusedElement(Main))) return;
+    const auto mark = Main.Group.ContainerHasFocus;
+    std::optional<FocusPlace> first;
+    Elements(Main, surface, [&](const ElementInfo& element) {
+        if (!element.Action.empty()) first = {surface, element};
+        return !first;
+    });
+    if (first) FocusOn(Main, *first);
+    Main.Group.ContainerHasFocus = mark;
+}
+
+bool RunEntry(frmMain& Main, std::string_view name) {
+    const auto found = FindEntry(name);
+    if (!found.Entry || !Address(Main, found.Menu) || !MayRun(Main, *found.Entry)) return false;
+    const int container = found.Menu == MenuName::Container ? Main.Group.CurrentContainer : -1;
+    found.Entry->Click(Main);
+    FocusContainer(Main, container);
+    return true;
+}
+
+// The box opens over the note, with the keyboard in it.
+void EditNote(frmMain& Main, int Index) {
+    ++Main.ConView(Index).ContainerNote.FocusWish;
+    Main.Marks.Note(Index);
 }
 
 } // namespace
@@ -148,6 +352,23 @@ bool Reaches(const KeyRow& row, const KeyEvent& event) {
 void HideFocus(frmMain& Main) {
     if (!Main.View.FocusVisible) return;
     Main.View.FocusVisible = false;
+    MarkFocus(Main);
+}
+
+void FocusOn(frmMain& Main, const FocusPlace& place) {
+    MarkFocus(Main);
+    Main.View.Focus = place.Element.Id;
+    Main.View.FocusSurface = place.Surface;
+    Main.View.FocusVisible = true;
+    Main.Group.ContainerHasFocus = place.Surface.Kind == SurfaceKind::Container;
+    if (place.Surface.Kind == SurfaceKind::Container) {
+        Main.Group.CurrentContainer = place.Surface.Index;
+        // The title row never scrolls.
+        if (place.Element.Id.Kind == ElementKind::lblShortcut)
+            ScrollIntoView(Main, place.Surface.Index, place.Element.Whole);
+    }
+    if (place.Element.Id.Kind == ElementKind::lblShortcut)
+        Main.Links.CurrentShortcut = place.Element.Id.Index;
     MarkFocus(Main);
 }
 
@@ -164,7 +385,7 @@ void MoveFocus(frmMain& Main, bool forward) {
         const auto at = static_cast<std::size_t>(now - places.begin());
         next = !Main.View.FocusVisible ? at : (at + (forward ? 1 : count - 1)) % count;
     }
-    SetFocus(Main, places[next]);
+    FocusOn(Main, places[next]);
 }
 
 bool ActivateElement(frmMain& Main, SurfaceId surface, ElementId element) {
@@ -183,9 +404,15 @@ bool ActivateElement(frmMain& Main, SurfaceId surface, ElementId element) {
         StartShortcut(Main, element.Index, false, "", false, false);
         return true;
     }
-    if (element.Kind == ElementKind::ContainerNote) return Main.Marks.EditNote(element.Index), true;
+    if (element.Kind == ElementKind::ContainerNote) return EditNote(Main, element.Index), true;
+    // A click on a tile is a press and a release, and no key presses.
+    if (element.Kind == ElementKind::ContainerIcon) return ContainerIcon_DblClick(Main, element.Index), true;
     const auto* route = RouteOf(element.Kind);
     if (!route) return false;
+    if (element.Kind == ElementKind::ResizeSymbol) {
+        event.Button = MouseButton::Middle; // the size that fits, since the other button drags
+        return route->Press(Main, element.Index, event), true;
+    }
     if (route->Click)
         route->Click(Main, element.Index, event);
     else if (route->DoubleClick)
@@ -198,14 +425,19 @@ bool ActivateFocus(frmMain& Main) {
     return ActivateElement(Main, Main.View.FocusSurface, Main.View.Focus);
 }
 
+std::span<const KeyRow> KeyTable() {
+    return keys;
+}
+
 bool Form_KeyDown(frmMain& Main, const KeyEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return false;
+    HideTip(Main);
+    if (BelongsToField(event)) return false;
+    // What a hand is carrying is not changed behind its back.
+    if (HandIsBusy(Main)) return event.Code == KeyEscape && CancelHand(Main);
     for (const auto& row : keys) {
         if (!Reaches(row, event)) continue;
-        if (row.Action) return row.Action(Main), true;
-        const auto* entry = EntryByName(row.Entry);
-        if (!entry || (entry->Enabled && !entry->Enabled(Main))) return false;
-        return entry->Click(Main), true;
+        if (row.Action ? row.Action(Main) : RunEntry(Main, row.Entry)) return true;
     }
     return false;
 }

@@ -1,276 +1,164 @@
 #include "core/menus.h"
 
-#include "containers/fold.h"
-#include "containers/gestures.h"
-#include "containers/lifecycle.h"
-#include "containers/measures.h"
-#include "containers/shrink.h"
+#include "containers/lock.h"
+#include "containers/selection.h"
+#include "core/menu_tables.h"
 #include "core/objects.h"
-#include "core/start.h"
 #include "core/tr.h"
 #include "dock/docking.h"
-#include "notes/notes.h"
-#include "persistence/backup.h"
-#include "persistence/save.h"
-#include "shortcuts/launch.h"
-
-#include <algorithm>
-#include <span>
 
 namespace quill {
 namespace {
 
-constexpr float stepAside = 300; // twips, about a title row
-constexpr int mostSteps = 20;
-
-bool HasContainer(const frmMain& Main) {
-    return IsLive(Main.Containers, Main.Group.CurrentContainer);
-}
-bool HasShortcut(const frmMain& Main) {
-    return IsLive(Main.Shortcuts, Main.Links.CurrentShortcut);
+bool IsSeparator(const MenuEntry& entry) {
+    return !entry.Click && !entry.Children;
 }
 
-bool StandsAt(const frmMain& Main, Point corner) {
-    for (const auto& row : Live(Main.Containers)) {
-        const auto& place = Main.ConView(row.Index).Container.Place;
-        if (place.Left == corner.X && place.Top == corner.Y) return true;
-    }
-    return false;
+bool Shows(const frmMain& Main, const MenuEntry& entry) {
+    return !entry.Visible || entry.Visible(Main);
 }
 
-// Where the last press was, but whole, and not exactly over a container that nobody would then see.
-void ChooseNewPlace(frmMain& Main) {
-    const auto& back = Main.View.picBack.Place;
-    const float edge = measures::NewContainerEdge + measures::EdgeGap;
-    const float top = Main.View.picMoveMe.Place.Bottom();
-    const float right = std::max(0.0F, back.Width - edge), bottom = std::max(top, back.Height - edge);
-    Point& place = Main.Group.NewContainerPos;
-    place = {std::clamp(place.X, 0.0F, right), std::clamp(place.Y, top, bottom)};
-    const Point step{place.X + stepAside > right ? -stepAside : stepAside,
-                     place.Y + stepAside > bottom ? -stepAside : stepAside};
-    for (int tries = 0; tries < mostSteps && StandsAt(Main, place); ++tries)
-        place = {std::clamp(place.X + step.X, 0.0F, right), std::clamp(place.Y + step.Y, top, bottom)};
-}
+using Offered = std::vector<const MenuEntry*>;
+std::vector<MenuLine> LinesOf(const frmMain& Main, MenuTable table, Offered& offered);
 
-void mnuNew_Click(frmMain& Main) {
-    ChooseNewPlace(Main);
-    bool ok = false;
-    NewGroup(Main, false, ok);
-    if (!ok) return;
-    Main.Group.CurrentContainer = Main.NextContainerIndex - 1;
-    Main.Con(Main.Group.CurrentContainer).CreationDate = DateText(Main);
-    Main.Con(Main.Group.CurrentContainer).ModifyDate = DateText(Main);
-    SaveContainers(Main, true);
-}
-
-void mnuNewNote_Click(frmMain& Main) {
-    ChooseNewPlace(Main);
-    if (NewNote(Main, "", Tr(Main, "Note"), false)) SaveContainers(Main, true);
-}
-
-bool IsLocked(const frmMain& Main) {
-    return Main.Dock.Locked;
-}
-bool IsOnTop(const frmMain& Main) {
-    return Main.Settings.OnTop;
-}
-bool IsMovementLocked(const frmMain& Main) {
-    return Main.Settings.PreventWindowMovement;
-}
-bool IsMaximized(const frmMain& Main) {
-    return Main.Dock.Maximized;
-}
-bool IsNotMaximized(const frmMain& Main) {
-    return !Main.Dock.Maximized;
-}
-
-void mnuHelpItem_Click(frmMain& Main) {
-    DialogPause pause(Main);
-    Main.P.Questions.MsgBox(CommandLineHelp(), BoxInformation, ProgramName);
-}
-
-constexpr MenuEntry separator{"", "-", "", nullptr};
-
-constexpr MenuEntry workspaceMenu[] = {
-    {"mnuNew", "New &Container", "Ctrl+T", &mnuNew_Click},
-    {"mnuNewNote", "&Note", "Ctrl+N", &mnuNewNote_Click},
-    separator,
-    {"mnuSave", "&Save", "F8", &mnuSave_Click},
-    {"mnuBackup", "&Backup", "", &mnuBackup_Click},
-    separator,
-    {"mnuLock", "&Lock", "Ctrl+L", &mnuLock_Click, nullptr, &IsLocked},
-    {"mnuOnTop", "&Keep On Top", "", &mnuOnTop_Click, nullptr, &IsOnTop},
-    {"mnuPreventWindowMovement", "Lock &Position", "", &mnuPreventWindowMovement_Click, nullptr,
-     &IsMovementLocked},
-    {"mnuMaximize", "Ma&ximize", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsNotMaximized},
-    {"mnuRestore", "Restor&e", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsMaximized},
-    separator,
-    {"mnuIgnoreChanges", "&Ignore Changes", "", &RestartIgnoringChanges},
-    {"mnuClearWorkspace", "Clea&r Workspace", "", &mnuClearWorkspace_Click},
-    {"mnuLoadDefaults", "Load &Defaults", "", &mnuLoadDefaults_Click},
-    {"mnuHelpItem", "Command-&line Options", "", &mnuHelpItem_Click},
-    separator,
-    {"mnuExitMainWin", "E&xit", "Alt+F4", &mnuExitMainWin_Click},
-};
-
-int Current(const frmMain& Main) {
-    return Main.Group.CurrentContainer;
-}
-bool CanFold(const frmMain& Main) {
-    return HasContainer(Main) && !IsShrunk(Main, Current(Main)) && !IsFolded(Main, Current(Main));
-}
-bool CanUnfold(const frmMain& Main) {
-    return HasContainer(Main) && !IsShrunk(Main, Current(Main)) && IsFolded(Main, Current(Main));
-}
-bool CanShrink(const frmMain& Main) {
-    return HasContainer(Main) && !IsShrunk(Main, Current(Main));
-}
-bool CanExpand(const frmMain& Main) {
-    return HasContainer(Main) && IsShrunk(Main, Current(Main));
-}
-bool CanKeep(const frmMain& Main) {
-    return HasContainer(Main) && Main.Group.ExpandedContainer == Current(Main);
-}
-bool NoteShows(const frmMain& Main) {
-    return CanShrink(Main) && Main.ConView(Current(Main)).PinPressed;
-}
-bool NoteHides(const frmMain& Main) {
-    return CanShrink(Main) && !Main.ConView(Current(Main)).PinPressed;
-}
-bool IsNoReminder(const frmMain& Main) {
-    return !HasContainer(Main) || !Main.Con(Current(Main)).IsReminder();
-}
-
-void FoldCurrent(frmMain& Main) {
-    lblFoldUnfold_Click(Main, Current(Main));
-}
-void ToggleTile(frmMain& Main) {
-    shapeShrink_Click(Main, Current(Main));
-}
-void ToggleNote(frmMain& Main) {
-    lblPinNote_Click(Main, Current(Main));
-    SaveContainers(Main, true);
-}
-
-void mnuConKeepExpanded_Click(frmMain& Main) {
-    Main.Group.ExpandedContainer = -1;
-    Main.Group.AutoFoldContainerIndex = -1;
-}
-
-void mnuConRemove_Click(frmMain& Main) {
-    const int index = Current(Main);
-    if (Main.Settings.ConfirmDelete) {
-        DialogPause pause(Main);
-        const auto question = Tr(Main, "%1?", Main.ConView(index).ContainerLabel.Caption);
-        if (Main.P.Questions.MsgBox(question, BoxYesNo | BoxQuestion, ProgramName) != AnswerYes) return;
-        if (Main.IsExiting || !IsLive(Main.Containers, index)) return;
-    }
-    DeleteContainer(Main, index, false);
-    SaveContainers(Main, true);
-}
-
-void mnuStartAll_Click(frmMain& Main) {
-    StartAllInContainer(Main, Current(Main));
-}
-
-constexpr MenuEntry containerMenu[] = {
-    {"mnuConFold", "&Fold", "", &FoldCurrent, nullptr, nullptr, &CanFold},
-    {"mnuConUnfold", "Un&fold", "", &FoldCurrent, nullptr, nullptr, &CanUnfold},
-    {"mnuConShrink", "S&hrink", "", &ToggleTile, nullptr, nullptr, &CanShrink},
-    {"mnuConExpand", "E&xpand", "", &ToggleTile, nullptr, nullptr, &CanExpand},
-    {"mnuConKeepExpanded", "&Keep Expanded", "", &mnuConKeepExpanded_Click, nullptr, nullptr, &CanKeep},
-    separator,
-    {"mnuConShowNote", "Show &Note", "", &ToggleNote, &IsNoReminder, nullptr, &NoteHides},
-    {"mnuConHideNote", "Hide &Note", "", &ToggleNote, &IsNoReminder, nullptr, &NoteShows},
-    separator,
-    {"mnuStartAll", "&Start All", "", &mnuStartAll_Click, &HasContainer},
-    separator,
-    {"mnuConRemove", "&Remove Containers", "", &mnuConRemove_Click, &HasContainer},
-};
-
-int Link(const frmMain& Main) {
-    return Main.Links.CurrentShortcut;
-}
-void mnuStart_Click(frmMain& Main) {
-    StartShortcut(Main, Link(Main), false, "", false, false);
-}
-void mnuStartInBackground_Click(frmMain& Main) {
-    StartShortcut(Main, Link(Main), true, "", false, true);
-}
-void mnuStartAdmin_Click(frmMain& Main) {
-    StartShortcut(Main, Link(Main), false, "", true, false);
-}
-void mnuStartWithoutParameters_Click(frmMain& Main) {
-    StartShortcut(Main, Link(Main), false, " ", false, false);
-}
-
-constexpr MenuEntry shortcutMenu[] = {
-    {"mnuStart", "&Start", "Enter", &mnuStart_Click, &HasShortcut},
-    {"mnuStartInBackground", "Start in &Background", "", &mnuStartInBackground_Click, &HasShortcut},
-    {"mnuStartAdmin", "Run as &administrator", "Ctrl+Enter", &mnuStartAdmin_Click, &HasShortcut},
-    {"mnuStartWithoutParameters", "&Override &Parameters Field", "", &mnuStartWithoutParameters_Click,
-     &HasShortcut},
-};
-
-std::span<const MenuEntry> EntriesOf(MenuName menu) {
-    switch (menu) {
-    case MenuName::Workspace:
-        return workspaceMenu;
-    case MenuName::Container:
-        return containerMenu;
-    case MenuName::Shortcut:
-        return shortcutMenu;
-    default:
-        return {};
-    }
-}
-
-MenuLine LineOf(const frmMain& Main, const MenuEntry& entry, int id) {
+MenuLine SubMenu(const frmMain& Main, const MenuEntry& entry, Offered& offered) {
     MenuLine line;
-    line.Caption = entry.Click ? Tr(Main, entry.Caption) : std::string(entry.Caption);
+    line.Caption = Tr(Main, entry.Caption);
+    line.Children = LinesOf(Main, entry.Children(), offered);
+    line.Enabled = !line.Children.empty() && (!entry.Enabled || entry.Enabled(Main));
+    return line;
+}
+
+MenuLine CommandLine(const frmMain& Main, const MenuEntry& entry, Offered& offered) {
+    MenuLine line;
+    line.Caption = Tr(Main, entry.Caption);
     line.Key = entry.Key;
     line.Enabled = !entry.Enabled || entry.Enabled(Main);
     line.Checkable = entry.Checked != nullptr;
     line.Checked = entry.Checked && entry.Checked(Main);
-    line.Id = id;
+    line.Id = static_cast<int>(offered.size());
+    offered.push_back(&entry);
     return line;
 }
 
 // Separators stand only between lines that show.
-std::vector<MenuLine> LinesOf(const frmMain& Main, std::span<const MenuEntry> entries) {
+std::vector<MenuLine> LinesOf(const frmMain& Main, MenuTable table, Offered& offered) {
     std::vector<MenuLine> lines;
-    for (std::size_t at = 0; at < entries.size(); ++at) {
-        if (entries[at].Visible && !entries[at].Visible(Main)) continue;
-        if (!entries[at].Click && (lines.empty() || lines.back().Caption == "-")) continue;
-        lines.push_back(LineOf(Main, entries[at], entries[at].Click ? static_cast<int>(at) : -1));
+    for (const auto& entry : table) {
+        if (!Shows(Main, entry)) continue;
+        if (!IsSeparator(entry))
+            lines.push_back(entry.Children ? SubMenu(Main, entry, offered)
+                                           : CommandLine(Main, entry, offered));
+        else if (!lines.empty() && lines.back().Caption != "-")
+            lines.emplace_back().Caption = entry.Caption;
     }
     while (!lines.empty() && lines.back().Caption == "-") lines.pop_back();
     return lines;
 }
 
+// What the menu is about stays the current one: the mouse and the clock go on while it is open. Nothing that
+// died meanwhile is replaced by something else.
+class Subject {
+public:
+    explicit Subject(const frmMain& Main)
+        : container_(Main.Group.CurrentContainer), shortcut_(Main.Links.CurrentShortcut) {}
+    void Restore(frmMain& Main) const {
+        Main.Group.CurrentContainer = IsLive(Main.Containers, container_) ? container_ : -1;
+        Main.Links.CurrentShortcut = IsLive(Main.Shortcuts, shortcut_) ? shortcut_ : -1;
+    }
+
+private:
+    int container_, shortcut_;
+};
+
+int AskMenu(frmMain& Main, const std::vector<MenuLine>& lines, MenuName menu, Point screen) {
+    const DialogPause pause(Main);
+    if (menu == MenuName::Container) Main.Group.HoldExpanded = true;
+    const int chosen = Main.P.Questions.PopupMenu(lines, screen);
+    if (menu == MenuName::Container) Main.Group.HoldExpanded = false;
+    return chosen;
+}
+
+const MenuEntry* FindIn(MenuTable table, std::string_view name) {
+    for (const auto& entry : table) {
+        if (entry.Click && entry.Name == name) return &entry;
+        const auto* below = entry.Children ? FindIn(entry.Children(), name) : nullptr;
+        if (below) return below;
+    }
+    return nullptr;
+}
+
 } // namespace
 
-void PopupMenu(frmMain& Main, MenuName menu, Point screen) {
-    const auto entries = EntriesOf(menu);
-    const auto lines = LinesOf(Main, entries);
-    if (lines.empty()) return;
-    int chosen = -1;
-    {
-        DialogPause pause(Main);
-        chosen = Main.P.Questions.PopupMenu(lines, screen);
+MenuTable TableOf(MenuName menu) {
+    switch (menu) {
+    case MenuName::Workspace:
+        return WorkspaceMenu();
+    case MenuName::Container:
+        return ContainerMenu();
+    case MenuName::Shortcut:
+        return ShortcutMenu();
+    default:
+        return {};
     }
+}
+
+void PopupMenu(frmMain& Main, MenuName menu, Point screen) {
+    Offered offered;
+    const auto lines = LinesOf(Main, TableOf(menu), offered);
+    if (lines.empty()) return;
+    const Subject subject(Main);
+    const int chosen = AskMenu(Main, lines, menu, screen);
     if (chosen < 0 || Main.IsExiting) return;
-    const auto& entry = entries[static_cast<std::size_t>(chosen)];
-    if (!entry.Enabled || entry.Enabled(Main)) entry.Click(Main);
+    subject.Restore(Main);
+    const auto& entry = *offered[static_cast<std::size_t>(chosen)];
+    if (MayRun(Main, entry)) entry.Click(Main);
+}
+
+FoundEntry FindEntry(std::string_view name) {
+    for (const auto menu : {MenuName::Workspace, MenuName::Container, MenuName::Shortcut})
+        if (const auto* entry = FindIn(TableOf(menu), name)) return {menu, entry};
+    return {};
 }
 
 const MenuEntry* EntryByName(std::string_view name) {
-    for (const auto menu : {MenuName::Workspace, MenuName::Container, MenuName::Shortcut}) {
-        const auto entries = EntriesOf(menu);
-        const auto found = std::ranges::find(entries, name, &MenuEntry::Name);
-        if (found != entries.end()) return &*found;
-    }
-    return nullptr;
+    return FindEntry(name).Entry;
+}
+
+bool MayRun(const frmMain& Main, const MenuEntry& entry) {
+    return Shows(Main, entry) && (!entry.Enabled || entry.Enabled(Main));
+}
+
+bool HasContainer(const frmMain& Main) {
+    return IsLive(Main.Containers, Main.Group.CurrentContainer);
+}
+
+bool HasShortcut(const frmMain& Main) {
+    return IsLive(Main.Shortcuts, Main.Links.CurrentShortcut);
+}
+
+bool HasSelectedShortcuts(const frmMain& Main) {
+    return !Main.Links.SelectedShortcuts.empty();
+}
+
+bool MayChangeSelected(const frmMain& Main) {
+    return HasSelectedShortcuts(Main) && MayMoveShortcuts(Main);
+}
+
+bool MayArrangeShortcuts(const frmMain& Main) {
+    return MayMoveShortcuts(Main);
+}
+
+bool HasSelectedContainers(const frmMain& Main) {
+    return GetSelectedContainersCount(Main) > 0;
+}
+
+bool HasContainers(const frmMain& Main) {
+    return LiveContainers(Main) > 0;
+}
+
+bool SnapsToGrid(const frmMain& Main) {
+    return Main.Dock.Align;
 }
 
 } // namespace quill

@@ -1,5 +1,6 @@
 #include "core/routes.h"
 
+#include "containers/dragging.h"
 #include "containers/fold.h"
 #include "containers/gestures.h"
 #include "containers/resize.h"
@@ -51,23 +52,19 @@ void ClickLock(frmMain& Main, int, const MouseEvent&) {
     mnuLock_Click(Main);
 }
 
-// While its menu is open a container that is expanded for the moment stays so.
-void ContainerMenu(frmMain& Main, const MouseEvent& event) {
-    Main.Group.HoldExpanded = true;
-    PopupMenu(Main, MenuName::Container, event.Screen);
-    Main.Group.HoldExpanded = false;
-}
-
 template <auto Press> void PressWithMenu(frmMain& Main, int Index, const MouseEvent& event) {
     Press(Main, Index, event);
-    if (event.Button == MouseButton::Right) ContainerMenu(Main, event);
+    if (event.Button == MouseButton::Right) PopupMenu(Main, MenuName::Container, event.Screen);
 }
 
 constexpr auto PressContainer = &PressWithMenu<&Container_MouseDown>;
+constexpr auto PressFrame = &PressWithMenu<&ContainerFrame_MouseDown>;
+constexpr auto PressTitleRow = &PressWithMenu<&ContainerTitle_MouseDown>;
 constexpr auto PressLabel = &PressWithMenu<&ContainerLabel_MouseDown>;
 constexpr auto PressTile = &PressWithMenu<&ContainerIcon_MouseDown>;
 
-void DoubleClickLabel(frmMain& Main, int Index, const MouseEvent&) {
+void DoubleClickLabel(frmMain& Main, int Index, const MouseEvent& event) {
+    if (LastClickPicked(Main)) return ContainerLabel_MouseDown(Main, Index, event);
     ContainerLabel_DblClick(Main, Index);
 }
 void DoubleClickEmptyPlace(frmMain& Main, int Index, const MouseEvent&) {
@@ -79,7 +76,8 @@ bool StartsAll(const frmMain& Main, int Index) {
     return Main.Settings.DblClickToStartAll && kind != ContainerKind::Note && kind != ContainerKind::Feed;
 }
 
-void DoubleClickTile(frmMain& Main, int Index, const MouseEvent&) {
+void DoubleClickTile(frmMain& Main, int Index, const MouseEvent& event) {
+    if (LastClickPicked(Main)) return ContainerIcon_MouseDown(Main, Index, event);
     if (StartsAll(Main, Index))
         StartAllInContainer(Main, Index);
     else
@@ -129,8 +127,8 @@ constexpr Route routes[] = {
     {ElementKind::PicMenu, nullptr, &ClickMenuButton, nullptr},
     {ElementKind::PicLockToolbar, nullptr, &ClickLock, nullptr},
     {ElementKind::PicUnLockToolbar, nullptr, &ClickLock, nullptr},
-    {ElementKind::Container, PressContainer, nullptr, &DoubleClickEmptyPlace},
-    {ElementKind::ContainerFrame, PressContainer, nullptr, &DoubleClickEmptyPlace},
+    {ElementKind::Container, PressTitleRow, nullptr, &DoubleClickEmptyPlace},
+    {ElementKind::ContainerFrame, PressFrame, nullptr, &DoubleClickEmptyPlace},
     {ElementKind::ContainerLabel, PressLabel, nullptr, &DoubleClickLabel},
     {ElementKind::ContainerIcon, PressTile, &ContainerIcon_MouseUp, &DoubleClickTile},
     {ElementKind::lblFoldUnfold, PressContainer, &ClickFoldMark, nullptr},

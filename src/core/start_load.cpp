@@ -92,6 +92,7 @@ bool ReadWorkspace(frmMain& Main, const GenerationFiles& files, DeferredSettings
         FirstRun(Main);
     else if (!ReadSettingsFile(Main, files, stored))
         return false;
+    Main.Settings.LineSpacing = static_cast<std::int16_t>(GetProperSpacing(Main.Settings.LineSpacing));
     if (!ReadContainerFiles(Main, files, startup)) return false;
     LoadWallpaper(Main);
     return true;

@@ -14,11 +14,13 @@ namespace quill {
 
 struct frmMain;
 
-enum class SurfaceKind { Workspace, Container, Picture };
+// The overlay lies over everything on picBack and lets the mouse through; it shows only while it has
+// something to show.
+enum class SurfaceKind { Workspace, Container, Picture, Overlay };
 
 struct SurfaceId {
     SurfaceKind Kind = SurfaceKind::Workspace;
-    int Index = -1; // table index of the container or picture; -1 for the workspace
+    int Index = -1; // table index of the container or picture; -1 for the workspace and the overlay
     auto operator<=>(const SurfaceId&) const = default;
 };
 
@@ -50,6 +52,8 @@ enum class ElementKind {
     PicContainer,
     PicImage,
     PictureGrip,
+    frmSelection,
+    frmExplode,
 };
 
 struct ElementId {

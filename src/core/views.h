@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/geometry.h"
+#include "platform/system_colors.h"
 
 #include <cstdint>
 #include <string>
@@ -30,12 +31,13 @@ inline Parent InContainer(int index) {
     return {ParentKind::ContainerFrame, index};
 }
 
-// The owner-drawn label. Alignment 0 is left, 2 centred, anything else right.
+// The owner-drawn label. Alignment 0 is left, 2 centred, anything else right. One that is not enabled looks the
+// same and does nothing.
 struct EruLabel {
     Rect Place;
     std::string Caption;
-    quill::Color ForeColor = 0xFFFFFF;
-    quill::Color BackColor = 0;
+    quill::Color ForeColor = CodeOf(SystemColor::ButtonText);
+    quill::Color BackColor = CodeOf(SystemColor::ButtonFace);
     quill::Color BorderColor = 0;
     float FontSize = 10; // points
     float Opacity = 1;   // 0 to 1, through SetOpacity
@@ -46,7 +48,8 @@ struct EruLabel {
     std::uint8_t BorderRadius = 0;
     bool FontBold = false;
     bool Visible = true;
-    bool AutoSize = false;
+    bool AutoSize = false; // the text may be larger than the place, which is made to fit it
+    bool Enabled = true;
     bool WordWrap = false;
 
     void SetOpacity(float value) { Opacity = value < 0 ? 0 : value > 1 ? 1 : value; }
@@ -106,7 +109,7 @@ struct FeedView : Element {
 
 struct ShortcutView {
     Parent In;
-    EruLabel lblShortcut;       // Caption may be a shortened form of FullCaption
+    EruLabel lblShortcut{.AutoSize = true}; // Caption may be a shortened form of FullCaption
     Rect picShortcut;           // the icon
     bool Visible = true;        // false while a tag view hides it
     bool IconDrawn = false;     // the icon has been asked for

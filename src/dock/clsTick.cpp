@@ -1,4 +1,4 @@
-#include "dock/docking.h"
+#include "dock/clsTick.h"
 
 namespace quill {
 namespace {

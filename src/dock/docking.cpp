@@ -1,5 +1,6 @@
 #include "dock/docking.h"
 
+#include "appearance/tips.h"
 #include "containers/layout.h"
 #include "core/splash.h"
 #include "platform/windows.h"
@@ -38,6 +39,7 @@ bool Reachable(const Rect& window, const Rect& area) {
 DialogPause::DialogPause(frmMain& main) : dock_(main.Dock) {
     ++dock_.DialogPauses;
     EndSplash(main);
+    HideTip(main);
 }
 
 Rect VirtualDesktop(const frmMain& Main) {

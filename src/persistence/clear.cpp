@@ -1,4 +1,5 @@
 #include "containers/lifecycle.h"
+#include "containers/selection.h"
 #include "core/objects.h"
 #include "persistence/save.h"
 #include "shortcuts/create.h"
@@ -7,7 +8,7 @@ namespace quill {
 namespace {
 
 void EndSelections(frmMain& Main) {
-    Main.Links.SelectedShortcuts.clear();
+    UnselectLinks(Main);
     Main.Links.CurrentShortcut = -1;
     for (auto& view : Main.ContainerViews) view.LabelSelected = false;
 }

@@ -1,5 +1,5 @@
 // Clock: the only source of time. A timer is a name of one enum and the index of its owner; it comes back as
-// Timer_Tick (core/handlers.h). Frames come back as Frame_Tick at 50 a second while they are wanted.
+// Timer_Tick (core/handlers.h). Frames come back as Frame_Tick, as many a second as are wanted.
 #pragma once
 
 #include <compare>
@@ -18,6 +18,9 @@ enum class TimerName {
     TimerBrieflyUnlock,
     TimeLock,
     TimerTip,
+    TimerFadeIn,    // of the tip
+    TimerFadeOut,   // of the tip
+    TimerMouseMove, // of the tip: whether the cursor is still over what it tells about
     TimerSysInfo,
     TimerFadeInReminder,
     TimerFlash,
@@ -28,6 +31,7 @@ enum class TimerName {
     TimerResizeWallpaper,
     TimerSaveNotes,      // ours: 2000 ms after the last key in a note
     TimerRestoreCaption, // ours: takes a passing text out of lblCaption again
+    TimerScrollOnDrag,   // ours: 50 ms while something is held near the edge of a frame that scrolls
 };
 
 struct TimerId {
@@ -54,8 +58,8 @@ public:
     virtual void Stop(TimerId timer) = 0;
     virtual bool IsRunning(TimerId timer) const = 0;
 
-    // While wanted, Frame_Tick runs as exactly as the system can; idle costs nothing.
-    virtual void WantFrames(bool wanted) = 0;
+    // Frame_Tick runs so many times a second, as exactly as the system can; 0: none, which costs nothing.
+    virtual void WantFrames(int perSecond) = 0;
 };
 
 } // namespace quill

@@ -7,6 +7,7 @@
 //   instance.h   the one running copy          texts.h      fonts, measuring, catalogue
 //   shell.h      starting things               drawing.h    canvas and images
 //   work.h       jobs off the thread           zip.h        archives
+//   dialogs.h    forms                         drags.h      drag and drop
 #pragma once
 
 namespace quill {
@@ -19,6 +20,8 @@ class Session;
 class Windows;
 class Shell;
 class Questions;
+class Dialogs;
+class Drags;
 class Texts;
 class Catalogue;
 class Images;
@@ -34,6 +37,8 @@ struct Platform {
     quill::Windows& Windows;
     quill::Shell& Shell;
     quill::Questions& Questions;
+    quill::Dialogs& Dialogs;
+    quill::Drags& Drags;
     quill::Texts& Texts;
     quill::Catalogue& Catalogue;
     quill::Images& Images;

@@ -30,6 +30,9 @@ public:
     // workspace that is half loaded.
     virtual void ShowSplashNow() = 0;
 
+    // A person who asked the desktop for less motion gets no effects.
+    virtual bool ReducedMotion() const = 0;
+
     virtual void PrintOut(const std::string& text) = 0;
     virtual void PrintError(const std::string& text) = 0;
 };

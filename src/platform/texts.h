@@ -14,6 +14,7 @@ struct FontSpec {
     bool Bold = false;
     bool Italic = false;
     bool StrikeThrough = false;
+    int Weight = 0; // 100 to 900, 400 as ordinary text; 0: by Bold
 };
 
 class Texts {

@@ -58,9 +58,11 @@ public:
     virtual std::vector<Monitor> Monitors() const = 0; // the primary one first, never empty
     virtual Point GetCursorPos() const = 0;
     virtual void SetCursorPos(Point place) = 0;
+    virtual void ShowCursor(bool shown) = 0; // over our own windows
 };
 
 inline constexpr WindowId MainWindow{WindowName::frmMain};
 inline constexpr WindowId SplashWindow{WindowName::frmSplash};
+inline constexpr WindowId TipWindow{WindowName::frmTip};
 
 } // namespace quill

@@ -8,10 +8,12 @@
 #include "qt/core/display.h"
 #include "qt/core/open_questions.h"
 #include "qt/core/qt_clock.h"
+#include "qt/core/qt_dialogs.h"
 #include "qt/core/qt_questions.h"
 #include "qt/core/qt_session.h"
 #include "qt/dock/qt_windows.h"
 #include "qt/shortcuts/gio_shell.h"
+#include "qt/shortcuts/qt_drags.h"
 #include "qt/system/gettext_catalogue.h"
 #include "qt/system/lib_zip.h"
 #include "qt/system/qt_worker.h"
@@ -34,6 +36,8 @@ struct QtPlatform::Parts {
     QtWindows Windows{Attached, Display};
     GioShell Shell{Worker};
     QtQuestions Questions{Display, Open};
+    QtDialogs Dialogs{Display, Open};
+    QtDrags Drags{Attached, Display, Open};
     QtTexts Texts{Display};
     QtImages Images{Display};
 
@@ -46,9 +50,9 @@ QtPlatform::~QtPlatform() = default;
 
 Platform QtPlatform::Ports() {
     auto& parts = *parts_;
-    return {parts.Files,   parts.Places, parts.Clock,     parts.Instance, parts.Session,
-            parts.Windows, parts.Shell,  parts.Questions, parts.Texts,    parts.Catalogue,
-            parts.Images,  parts.Worker, parts.Zip};
+    return {parts.Files,   parts.Places,    parts.Clock,     parts.Instance, parts.Session,
+            parts.Windows, parts.Shell,     parts.Questions, parts.Dialogs,  parts.Drags,
+            parts.Texts,   parts.Catalogue, parts.Images,    parts.Worker,   parts.Zip};
 }
 
 } // namespace quill::qt

@@ -1,5 +1,6 @@
 #include "shortcuts/create.h"
 
+#include "containers/selection.h"
 #include "core/objects.h"
 #include "core/tr.h"
 #include "dock/docking.h"
@@ -164,7 +165,7 @@ void AddPicture(frmMain& Main, const std::string& path, Parent target, const Rec
 
 void DeleteShortcut(frmMain& Main, int Index) {
     if (!IsLive(Main.Shortcuts, Index)) return;
-    std::erase(Main.Links.SelectedShortcuts, Index);
+    SetSelection(Main, Index, false);
     RemoveFromRecent(Main, Index);
     if (Main.Links.CurrentShortcut == Index) Main.Links.CurrentShortcut = -1;
     const Parent in = Main.LinkView(Index).In;

@@ -2,6 +2,7 @@
 #include "shortcuts/create.h"
 
 #include "platform/places.h"
+#include "shortcuts/uri_list.h"
 
 #include <algorithm>
 #include <string_view>
@@ -28,25 +29,6 @@ std::string ProgramDrive(const frmMain& Main) {
     std::string mount = Main.P.Places.MountPoint(Main.P.Places.ProgramFolder());
     while (!mount.empty() && mount.back() == '/') mount.pop_back();
     return mount;
-}
-
-int HexDigit(char digit) {
-    const char lower = LowerAscii(digit);
-    if (lower >= '0' && lower <= '9') return lower - '0';
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
-
-std::string PercentDecoded(std::string_view text) {
-    std::string plain;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const int high = text[at] == '%' && at + 2 < text.size() ? HexDigit(text[at + 1]) : -1;
-        const int low = high >= 0 ? HexDigit(text[at + 2]) : -1;
-        if (low >= 0)
-            plain += static_cast<char>(high * 16 + low), at += 2;
-        else
-            plain += text[at];
-    }
-    return plain;
 }
 
 } // namespace

@@ -1,6 +1,9 @@
 // The shortcuts' part of the workspace's state.
 #pragma once
 
+#include "platform/drags.h"
+#include "platform/geometry.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -19,10 +22,25 @@ struct RecentRow {
     std::string ParentName;
 };
 
+// One of our own objects in the hand.
+struct CarriedObject {
+    DraggedObject Object;
+    Point FromHand; // from the pointer to its upper left corner, a shortcut's label; twips
+};
+
+// What is dragged over the workspace at this moment, by this program or another.
+struct DragWatch {
+    int Over = -1;        // the container under the pointer; -1: none
+    bool Taken = false;   // it would take what is dragged, and its rim shows that
+    float ScrollStep = 0; // of its frame at each tick of TimerScrollOnDrag, twips; 0: it rests
+};
+
 struct ShortcutsState {
     int CurrentShortcut = -1;
     int DragIndex = -2; // -1 from the start of a drag to the end of its release, -2 by keyboard, else the
                         // last released in place
+    std::vector<CarriedObject> Carried; // from the start of a drag to the end of its release
+    DragWatch Dragged;
     std::vector<int> SelectedShortcuts; // in order of selection
     std::vector<RecentItem> Recent;     // newest first, at most MaxRecent
     std::vector<RecentRow> RecentRows;  // read, not resolved yet

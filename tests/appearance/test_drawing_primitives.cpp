@@ -1,6 +1,9 @@
 #include "appearance/drawing_primitives.h"
 
+#include "appearance/print_rotated.h"
+#include "appearance/round_window.h"
 #include "fake/canvas.h"
+#include "fake/texts.h"
 #include "fake/words.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +29,7 @@ std::string Painted(const EruLabel& label) {
 
 TEST(EruLabel, OnlyTextIsDrawnOverWhatLiesBehind) {
     // The text's place begins 3 pixels in and ends 3 pixels before an edge that lies one pixel further out.
-    EXPECT_EQ(Painted(Label()), "text \"Mail\" 195,345 1425x375 white left 10pt\n");
+    EXPECT_EQ(Painted(Label()), "text \"Mail\" 195,345 1425x375 white left 10pt clip\n");
 }
 
 TEST(EruLabel, AlignmentOneIsRightAndOnlyTwoCentres) {
@@ -64,18 +67,41 @@ TEST(EruLabel, TextStaysSolidOnATranslucentGround) {
     label.BackStyle = 1;
     label.SetOpacity(0.5F);
     EXPECT_EQ(Painted(label), "fill 150,300 1515x465 #FF0000 opacity 0.5\n"
-                              "text \"Mail\" 195,345 1425x375 white left 10pt\n");
+                              "text \"Mail\" 195,345 1425x375 white left 10pt clip\n");
 }
 
 TEST(EruLabel, BorderIsTwiceItsWidthLessOne) {
     EruLabel label = Label();
     label.BackStyle = 1;
     label.BorderWidth = 3;
-    EXPECT_EQ(Painted(label), "round 150,300 1515x465 r0 #FF0000 pen 5 #00FF00\n"
-                              "text \"Mail\" 240,390 1380x330 white left 10pt\n")
-        << "square, 5 pixels wide; the text gives way at the left and top only";
+    EXPECT_EQ(Painted(label), "clip 150,300 1515x465\n"
+                              "round 120,270 1575x525 r0 #FF0000 pen 5 #00FF00\n"
+                              "unclip\n"
+                              "text \"Mail\" 240,390 1380x330 white left 10pt clip\n")
+        << "square, 5 pixels wide along the edge, of which 3 are seen; the text gives way at the left and "
+           "top only";
     label.BorderWidth = 1;
-    EXPECT_NE(Painted(label).find("pen 1 "), std::string::npos);
+    EXPECT_EQ(Painted(label), "round 150,300 1515x465 r0 #FF0000 pen 1 #00FF00\n"
+                              "text \"Mail\" 210,360 1410x360 white left 10pt clip\n");
+}
+
+TEST(EruLabel, OnlyTheThinnestBorderCanBeBroken) {
+    struct Row {
+        std::uint8_t Style, Width;
+        const char* Words;
+    };
+    for (const Row& row :
+         {Row{0, 1, "pen 1 #00FF00\n"}, Row{1, 1, "pen 1 #00FF00 dashed\n"}, Row{2, 1, "pen 1 #00FF00 dotted\n"},
+          Row{3, 1, "pen 1 #00FF00 dash-dotted\n"}, Row{4, 1, "pen 1 #00FF00 dash-dot-dotted\n"},
+          Row{1, 2, "pen 3 #00FF00\n"}, Row{9, 1, "pen 1 #00FF00\n"}, Row{5, 1, "r0 #FF0000\n"},
+          Row{5, 3, "r0 #FF0000\n"}}) {
+        EruLabel label = Label();
+        label.BackStyle = 1;
+        label.BorderStyle = row.Style;
+        label.BorderWidth = row.Width;
+        EXPECT_NE(Painted(label).find(row.Words), std::string::npos)
+            << int{row.Style} << " " << int{row.Width} << ": " << Painted(label);
+    }
 }
 
 TEST(EruLabel, CornersAreRoundedBySpreadingTheRadius) {
@@ -83,8 +109,19 @@ TEST(EruLabel, CornersAreRoundedBySpreadingTheRadius) {
     label.BackStyle = 1;
     label.BorderRadius = 4; // ellipse axes of 10 pixels: half of one is 75 twips
     EXPECT_EQ(Painted(label), "round 150,300 1515x465 r75 #FF0000\n"
-                              "text \"Mail\" 195,345 1425x375 white left 10pt\n")
+                              "text \"Mail\" 195,345 1425x375 white left 10pt clip\n")
         << "no border width, no pen";
+}
+
+TEST(EruLabel, ARoundedBorderIsSeenAsWideAsASquareOne) {
+    EruLabel label = Label();
+    label.BackStyle = 1;
+    label.BorderRadius = 4;
+    label.BorderWidth = 2;
+    EXPECT_EQ(Painted(label), "clip 150,300 1515x465\n"
+                              "round 135,285 1545x495 r90 #FF0000 pen 3 #00FF00\n"
+                              "unclip\n"
+                              "text \"Mail\" 225,375 1395x345 white left 10pt clip\n");
 }
 
 TEST(EruLabel, ABackStyleOtherThanOneDrawsNoGround) {
@@ -92,6 +129,99 @@ TEST(EruLabel, ABackStyleOtherThanOneDrawsNoGround) {
     label.BackStyle = 2;
     label.BorderWidth = 2;
     EXPECT_EQ(Painted(label).find("round"), std::string::npos);
+}
+
+TEST(EruLabel, ColorsThatNobodySetAreThoseOfTheDesktopsButtons) {
+    EruLabel label;
+    label.Place = {0, 0, 150, 150};
+    label.Caption = "Mail";
+    label.BackStyle = 1;
+    EXPECT_EQ(Painted(label), "fill 0,0 165x165 system15\ntext \"Mail\" 45,45 75x75 system18 left 10pt clip\n");
+    EXPECT_EQ(static_cast<std::uint32_t>(label.BackColor), 0x8000000FU);
+    EXPECT_EQ(static_cast<std::uint32_t>(label.ForeColor), 0x80000012U);
+}
+
+TEST(EruLabel, MinusOneAndOrdinaryColorsAreNoneOfTheSystems) {
+    for (const Color color : {-1, 0, 0xFFFFFF, 0x0F}) EXPECT_FALSE(IsSystemColor(color)) << color;
+    EXPECT_TRUE(IsSystemColor(CodeOf(SystemColor::WindowBackground)));
+}
+
+struct FormatRow {
+    std::uint8_t Alignment;
+    bool WordWrap, AutoSize;
+    int Flags;
+};
+
+TEST(EruLabel, FormatFlagsFollowAlignmentWrappingAndSizing) {
+    const FormatRow rows[] = {
+        {0, false, false, 0x800}, {1, false, false, 0x802}, {2, false, false, 0x801}, {7, false, false, 0x802},
+        {0, true, false, 0x810},  {0, false, true, 0x900},  {2, true, true, 0x811}, // wrapping comes first
+        {1, false, true, 0x902},
+    };
+    for (const auto& row : rows) {
+        EruLabel label;
+        label.Alignment = row.Alignment;
+        label.WordWrap = row.WordWrap;
+        label.AutoSize = row.AutoSize;
+        EXPECT_EQ(TextFormatOf(label), row.Flags)
+            << int{row.Alignment} << " " << row.WordWrap << " " << row.AutoSize;
+    }
+}
+
+TEST(EruLabel, AnAmpersandIsALetter) {
+    EruLabel label = Label();
+    label.Caption = "R&D";
+    EXPECT_NE(Painted(label).find("\"R&D\""), std::string::npos);
+}
+
+TEST(EruLabel, TextIsCutAtItsRectangleUnlessTheLabelFollowsItsText) {
+    EruLabel label = Label();
+    label.AutoSize = true;
+    EXPECT_EQ(Painted(label).find(" clip"), std::string::npos);
+    label.WordWrap = true;
+    EXPECT_NE(Painted(label).find(" clip"), std::string::npos);
+    TextStyle ellipsis;
+    ellipsis.Elide = true;
+    fake::FakeCanvas canvas;
+    PaintEruLabel(canvas, label, "Tahoma", ellipsis);
+    EXPECT_EQ(canvas.Painted().find(" clip"), std::string::npos) << "an ellipsis stands within it already";
+}
+
+TEST(EruLabel, AutoSizeTakesTheHeightOfTheText) {
+    const fake::FakeTexts texts; // a line of 10 points is 260 high, a letter 90 wide
+    EruLabel label = Label();
+    SizeLabel(texts, label, "Tahoma");
+    EXPECT_EQ(label.Place, Label().Place) << "off";
+    label.AutoSize = true;
+    SizeLabel(texts, label, "Tahoma");
+    EXPECT_EQ(label.Place.Height, 260 + 8 * 15);
+    label.BorderWidth = 3;
+    SizeLabel(texts, label, "Tahoma");
+    EXPECT_EQ(label.Place.Height, 260 + 14 * 15);
+    EXPECT_EQ(label.Place.Width, Label().Place.Width) << "the width is the holder's";
+    label.Caption = "one\r\ntwo";
+    SizeLabel(texts, label, "Tahoma");
+    EXPECT_EQ(label.Place.Height, 2 * 260 + 14 * 15);
+    label.Caption.clear();
+    label.Place.Height = 77;
+    SizeLabel(texts, label, "Tahoma");
+    EXPECT_EQ(label.Place.Height, 77) << "no caption";
+}
+
+TEST(EruLabel, AWrappedTextHasTheWidthLessEightPixelsAndBothBorders) {
+    const fake::FakeTexts texts;
+    EruLabel label = Label();
+    label.AutoSize = label.WordWrap = true;
+    label.Caption = "aaaaaaa bbbbbbb"; // 7 and 7 letters: 630 twips a word, 1350 both
+    label.Place.Width = 1350 + 8 * 15;
+    SizeLabel(texts, label, "Tahoma");
+    EXPECT_EQ(label.Place.Height, 260 + 8 * 15) << "both words on a line";
+    label.BorderWidth = 1;
+    SizeLabel(texts, label, "Tahoma");
+    EXPECT_EQ(label.Place.Height, 2 * 260 + 10 * 15) << "30 twips less, and they do not fit";
+    label.Place.Width = 10;
+    SizeLabel(texts, label, "Tahoma");
+    EXPECT_EQ(label.Place.Height, 14 * 260 + 10 * 15) << "never without a width: a letter a line";
 }
 
 TEST(EruLabel, FontAndWrappingReachTheText) {
@@ -129,6 +259,25 @@ TEST(Gradient, ReversedRunsFromTheBottom) {
     const Rect place = Pixels(100, 400);
     EXPECT_EQ(RampColorAt(place, 0, RampKind::ContainerFrameReversed, place.Height - 1), 0);
     EXPECT_EQ(RampColorAt(place, 0, RampKind::ContainerFrameReversed, 0), 0x646464);
+}
+
+TEST(Gradient, TheSumIsRoundedHalvesToTheEvenNumber) {
+    const Rect place = Pixels(10, 201); // half a step a row
+    EXPECT_EQ(RampColorAt(place, Rgb(0, 1, 2), RampKind::ContainerFrame, 15), Rgb(0, 2, 2));
+    EXPECT_EQ(RampColorAt(place, Rgb(0, 1, 2), RampKind::ContainerFrame, 3 * 15), Rgb(2, 2, 4));
+}
+
+TEST(Gradient, AChannelMayReachWhiteAndStopsOnlyBeyond) {
+    const auto lines = Ramp(Pixels(10, 101), Rgb(155, 155, 155), RampKind::ContainerFrame);
+    EXPECT_EQ(lines.size(), 101U);
+    EXPECT_EQ(lines.back(), "fill 0,1500 150x15 white");
+    EXPECT_EQ(Ramp(Pixels(10, 101), Rgb(156, 155, 155), RampKind::ContainerFrame).size(), 100U);
+}
+
+TEST(Gradient, ReversedItStopsOnItsWayUp) {
+    const auto lines = Ramp(Pixels(10, 101), Rgb(253, 0, 0), RampKind::ContainerFrameReversed);
+    EXPECT_EQ(lines, (std::vector<std::string>{"fill 0,1470 150x15 #FF0202", "fill 0,1485 150x15 #FE0101",
+                                               "fill 0,1500 150x15 #FD0000"}));
 }
 
 TEST(Gradient, ASingleRowHasItsOwnColor) {
@@ -204,6 +353,50 @@ TEST(Gradient, NothingOfAnElementWithoutHeight) {
 TEST(Gradient, StandsWhereItsElementStands) {
     EXPECT_EQ(Ramp({100, 200, 150, 15}, 0, RampKind::ContainerFrame),
               std::vector<std::string>{"fill 100,200 150x15 black"});
+}
+
+// ------------------------------------------------------------------------------- rotated text, round windows
+
+std::string Turned(float points, int angle, int weight) {
+    fake::FakeCanvas canvas;
+    PrintRotated(canvas, "Tab", 0, 1200, "Verdana", points, angle, weight, 0xFFFFFF);
+    return canvas.Painted();
+}
+
+TEST(RotatedText, IsTurnedInTenthsOfADegreeAroundItsCorner) {
+    EXPECT_EQ(Turned(9, 90, 550), "rotated \"Tab\" 0,1200 turned 900 white left 9pt weight 550\n");
+    EXPECT_EQ(Turned(9, -45, 400), "rotated \"Tab\" 0,1200 turned -450 white left 9pt weight 400\n");
+}
+
+TEST(RotatedText, LettersHaveWholePixels) {
+    struct Row {
+        float Points;
+        int Height;
+    };
+    for (const Row& row : {Row{8, 11}, Row{9, 12}, Row{10, 13}, Row{11, 15}, Row{72, 96}})
+        EXPECT_EQ(CharacterHeight(row.Points), row.Height) << row.Points;
+    EXPECT_NE(Turned(8, 90, 550).find(" 8.25pt "), std::string::npos) << "11 pixels";
+}
+
+std::string Cut(const Rect& element, float radius, int frameX, int frameY) {
+    fake::FakeCanvas canvas;
+    RoundWindow(canvas, element, radius, frameX, frameY);
+    EXPECT_EQ(canvas.Clips, 1) << "the caller ends it";
+    return canvas.Painted();
+}
+
+TEST(RoundWindow, CutsWhatIsPaintedToCornersOfHalfTheAxis) {
+    EXPECT_EQ(Cut({30, 45, 1500, 900}, 16, 0, 0), "clip 30,45 1500x900 r120\n");
+}
+
+TEST(RoundWindow, ItsRegionIsSmallerByTheFrameWhichLiesInside) {
+    EXPECT_EQ(Cut({0, 0, 1500, 900}, 20, 1, 2), "round 0,0 1485x870 r150 system1\n"
+                                                "clip 15,30 1455x810 r120\n");
+}
+
+TEST(RoundWindow, ASmallOneIsAsRoundAsItCanBe) {
+    EXPECT_EQ(Cut({0, 0, 90, 60}, 20, 0, 0), "clip 0,0 90x60 r30\n");
+    EXPECT_EQ(Cut({0, 0, 15, 15}, 20, 2, 2), "round 0,0 0x0 r0 system1\nclip 30,30 0x0\n");
 }
 
 } // namespace

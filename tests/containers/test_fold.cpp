@@ -208,5 +208,53 @@ TEST_F(Fold, ADeadOrUnknownContainerIsLeftAlone) {
     EXPECT_EQ(Main.Group.CurrentContainer, -1);
 }
 
+TEST_F(Fold, FoldingIsAnimatedAndUnfoldingIsNot) {
+    const int index = New({500, 600, 3000, 3000});
+    const auto& effect = Main.Looks.frmExplode;
+    FoldUnfoldContainer(Main, index, true);
+    EXPECT_EQ(effect.Running, EffectState::Kind::Implode);
+    EXPECT_EQ(fake::Words(effect.Start), "500,600 3000x3000");
+    EXPECT_EQ(fake::Words(effect.End), "500,600 3000x320");
+    EXPECT_EQ(Main.Group.ExpandingContainer, index);
+    EXPECT_TRUE(Main.ConView(index).Container.Visible); // its title row
+    Wait(600);
+    EXPECT_FALSE(effect.Loaded);
+    EXPECT_EQ(Main.Group.ExpandingContainer, -1);
+    FoldUnfoldContainer(Main, index, true);
+    EXPECT_FALSE(effect.Loaded);
+}
+
+TEST_F(Fold, TheFoldEffectNeedsBothItsSettingsAndToBeAskedFor) {
+    struct Row {
+        const char* Name;
+        bool Effect, FoldUnfoldEffect, UseEffect, Runs;
+    };
+    const Row rows[] = {
+        {"both on", true, true, true, true},
+        {"no effects at all", false, true, true, false},
+        {"not when folding", true, false, true, false},
+        {"not asked for", true, true, false, false},
+    };
+    for (const auto& row : rows) {
+        const int index = New({500, 600, 3000, 3000});
+        Main.Settings.Effect = row.Effect;
+        Main.Settings.FoldUnfoldEffect = row.FoldUnfoldEffect;
+        FoldUnfoldContainer(Main, index, row.UseEffect);
+        EXPECT_EQ(Main.Looks.frmExplode.Loaded, row.Runs) << row.Name;
+        EXPECT_TRUE(IsFolded(Main, index)) << row.Name;
+        Wait(600);
+        DeleteContainer(Main, index, false);
+    }
+}
+
+TEST_F(Fold, OneThatFoldsWhileItsTileStillOpensIsSeenFolded) {
+    const int tile = NewTile(4000, 2000);
+    ExpandShrinkContainer(Main, tile, true);
+    FoldUnfoldContainer(Main, tile, false);
+    EXPECT_TRUE(IsFolded(Main, tile));
+    EXPECT_TRUE(Main.ConView(tile).Container.Visible);
+    EXPECT_EQ(Main.Group.ExpandingContainer, -1);
+}
+
 } // namespace
 } // namespace quill

@@ -7,6 +7,7 @@ namespace quill {
 namespace {
 
 struct Gestures : test::WorkspaceFixture {
+    Gestures() { Main.Settings.Effect = false; }
     // Through the handlers, as the window system calls them.
     MouseEvent At(int index, Point at, MouseButton button = MouseButton::Left) {
         return {.At = at, .Screen = {Box(index).Left + at.X, Box(index).Top + at.Y}, .Button = button};
@@ -89,7 +90,7 @@ TEST_F(Gestures, APressThatMovedOrHadAModifierIsNoClickOnATile) {
     const int tile = NewTile(4000, 2000);
     const auto down = At(tile, {300, 400});
     auto moved = down, ctrl = down, right = down;
-    moved.Screen.X += 1;
+    moved.Screen.X += 5 * TwipsPerPixel;
     ctrl.Ctrl = true;
     right.Button = MouseButton::Right;
     for (const auto& up : {moved, ctrl, right}) {

@@ -98,6 +98,28 @@ TEST_F(Layout, TextInAHiddenNoteIsShownByAMark) {
     }
 }
 
+TEST_F(Layout, TheListOfAFeedFillsItsFrameAndTakesTheRoomOfAHiddenTitleRow) {
+    const int index = New({600, 600, 4000, 3500});
+    Main.Con(index).RSS = true;
+    Main.Con(index).RSSListIndex = 0;
+    Main.FeedViews.resize(1);
+    SetObjectRelativeSize(Main, index);
+    EXPECT_EQ(fake::Words(Main.FeedViews[0].Place), "65,10 3870x2810");
+    Main.Con(index).HideToolbar = true;
+    SetObjectRelativeSize(Main, index);
+    EXPECT_EQ(fake::Words(Main.FeedViews[0].Place), "75,-270 3870x3090");
+}
+
+TEST_F(Layout, TheMarkThatResizesKeepsClearOfTheRoundedCornerAndCanBeHit) {
+    const int index = New({600, 600, 4000, 3500});
+    const auto mark = ResizeMarkPlace({0, 0, 4000, 3500});
+    EXPECT_EQ(4000 - mark.Right(), 130);
+    EXPECT_EQ(3500 - mark.Bottom(), 145);
+    for (const auto& at :
+         {Point{mark.Left, mark.Top}, Point{mark.Right() - 1, mark.Bottom() - 1}, Point{3999, 3499}})
+        EXPECT_EQ(ElementAt(Main, OnContainer(index), at).Kind, ElementKind::ResizeSymbol);
+}
+
 TEST_F(Layout, ADeadContainerIsLeftAlone) {
     const int index = New({600, 600, 3000, 3000});
     DeleteContainer(Main, index, false);

@@ -144,13 +144,15 @@ TEST_F(Lifecycle, DeletingForgetsTheContainerWhereverItWasRemembered) {
     auto& state = Main.Group;
     for (int* index : {&state.CurrentContainer, &state.ExpandedContainer, &state.ExpandingContainer,
                        &state.LastShrunkBack, &state.AutoFoldContainerIndex, &state.FlipPosition,
-                       &state.PressedTile, &state.ResizingContainer, &state.ScrollingContainer}) {
+                       &state.PressedTile, &state.ResizingContainer, &state.ScrollingContainer,
+                       &state.HoverContainer, &state.MouseContainer, &state.DragHoverContainer}) {
         *index = gone;
     }
     DeleteContainer(Main, gone, false);
-    for (const int index : {state.CurrentContainer, state.ExpandedContainer, state.ExpandingContainer,
-                            state.LastShrunkBack, state.AutoFoldContainerIndex, state.FlipPosition,
-                            state.PressedTile, state.ResizingContainer, state.ScrollingContainer}) {
+    for (const int index :
+         {state.CurrentContainer, state.ExpandedContainer, state.ExpandingContainer, state.LastShrunkBack,
+          state.AutoFoldContainerIndex, state.FlipPosition, state.PressedTile, state.ResizingContainer,
+          state.ScrollingContainer, state.HoverContainer, state.MouseContainer, state.DragHoverContainer}) {
         EXPECT_EQ(index, -1);
     }
     EXPECT_FALSE(SurfaceVisible(Main, OnContainer(gone)));

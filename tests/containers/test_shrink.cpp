@@ -7,6 +7,7 @@ namespace quill {
 namespace {
 
 struct Shrink : test::WorkspaceFixture {
+    Shrink() { Main.Settings.Effect = false; }
     void Expand(int index) {
         ExpandShrinkContainer(Main, index, true);
         Wait(20);
@@ -68,6 +69,7 @@ TEST_F(Shrink, ExpandingBringsItToTheFrontAndGivesItTheKeys) {
     EXPECT_EQ(Main.Group.CurrentContainer, tile);
     EXPECT_EQ(Main.Group.ExpandedContainer, tile);
     EXPECT_TRUE(Main.Group.ContainerHasFocus);
+    computer.Windows.Cursor = {4400, 2400}; // over the tile
     ShrinkBackContainer(Main, false);
     EXPECT_EQ(Main.Group.ExpandedContainer, -1);
     EXPECT_EQ(Main.Group.LastShrunkBack, tile);
@@ -229,6 +231,166 @@ TEST_F(Shrink, AnOpenedNoteTakesTheKeyboardWhereThatIsWanted) {
     Main.Settings.GrabFocus = true;
     Expand(tile);
     EXPECT_EQ(note.FocusWish, before + 1);
+}
+
+TEST_F(Shrink, ExpandingAnotherOneClosesWhatIsOpenForTheMoment) {
+    const int one = NewTile(1000, 2000), two = NewTile(8000, 2000);
+    ExpandShrinkContainer(Main, one, true);
+    ExpandShrinkContainer(Main, two, true); // also within the time in which a click does not close
+    EXPECT_TRUE(IsShrunk(Main, one));
+    EXPECT_FALSE(IsShrunk(Main, two));
+    EXPECT_EQ(Main.Group.ExpandedContainer, two);
+    EXPECT_EQ(Main.Group.CurrentContainer, two);
+    EXPECT_TRUE(Main.Group.ContainerHasFocus);
+}
+
+TEST_F(Shrink, WhatATagViewHidesIsNotShownByGoingBack) {
+    const int tile = NewTile(4000, 2000);
+    Expand(tile);
+    Main.Con(tile).tag = true;
+    Main.ConView(tile).Container.Visible = false;
+    Main.Settings.Effect = true;
+    ShrinkBackContainer(Main, true);
+    EXPECT_TRUE(IsShrunk(Main, tile));
+    EXPECT_FALSE(Main.ConView(tile).Container.Visible);
+}
+
+// ---- effects
+
+struct ShrinkEffect : Shrink {
+    ShrinkEffect() { Main.Settings.Effect = true; }
+    EffectState& Effect() { return Main.Looks.frmExplode; }
+    bool Seen(int index) { return Main.ConView(index).Container.Visible; }
+    std::string Course() { return fake::Words(Effect().Start) + " > " + fake::Words(Effect().End); }
+    void EffectEnds() { Wait(600); }
+};
+
+TEST_F(ShrinkEffect, ATileGrowsToTheContainerAndShrinksBackToTheTile) {
+    const int tile = NewTile(4000, 2000);
+    ExpandShrinkContainer(Main, tile, true);
+    EXPECT_EQ(Effect().Running, EffectState::Kind::Explode);
+    EXPECT_EQ(Course(), "4000,2000 700x950 > 2850,2000 3000x3000");
+    EXPECT_EQ(Main.Group.ExpandingContainer, tile);
+    EXPECT_FALSE(Seen(tile));
+    EffectEnds();
+    EXPECT_TRUE(Seen(tile));
+    EXPECT_EQ(Main.Group.ExpandingContainer, -1);
+    EXPECT_FALSE(Main.Group.JustExpanded);
+    ShrinkBackContainer(Main, true);
+    EXPECT_EQ(Effect().Running, EffectState::Kind::Implode);
+    EXPECT_EQ(Course(), "2850,2000 3000x3000 > 4000,2000 700x950");
+    EXPECT_FALSE(Seen(tile));
+    EXPECT_EQ(Main.Group.ExpandedContainer, -1);
+    EffectEnds();
+    EXPECT_TRUE(Seen(tile));
+    EXPECT_EQ(Main.Group.ExpandingContainer, -1);
+}
+
+TEST_F(ShrinkEffect, OnlyWhatTheSettingsNameIsAnimated) {
+    struct Row {
+        const char* Name;
+        bool On;
+        std::uint8_t Mode;
+        bool UseEffect, Grows, Shrinks;
+    };
+    const Row rows[] = {
+        {"both", true, 0, true, true, true},
+        {"explode only", true, 1, true, true, false},
+        {"implode only", true, 2, true, false, true},
+        {"switched off", false, 0, true, false, false},
+        {"not asked for", true, 0, false, false, false},
+    };
+    for (const auto& row : rows) {
+        Main.Settings.Effect = row.On;
+        Main.Settings.EffectMode = row.Mode;
+        const int tile = NewTile(4000, 2000);
+        ExpandShrinkContainer(Main, tile, row.UseEffect);
+        EXPECT_EQ(!Seen(tile), row.Grows) << row.Name;
+        EXPECT_EQ(Main.Group.ExpandingContainer == tile, row.Grows) << row.Name;
+        EffectEnds();
+        ShrinkBackContainer(Main, row.UseEffect);
+        EXPECT_EQ(!Seen(tile), row.Shrinks) << row.Name;
+        EffectEnds();
+        EXPECT_TRUE(Seen(tile)) << row.Name;
+        EXPECT_TRUE(IsShrunk(Main, tile)) << row.Name;
+        EXPECT_EQ(Effect().Loaded, false) << row.Name;
+        DeleteContainer(Main, tile, false);
+    }
+}
+
+TEST_F(ShrinkEffect, OneThatIsAskedToCloseWhileItOpensTurnsRound) {
+    const int tile = NewTile(4000, 2000);
+    ExpandShrinkContainer(Main, tile, true);
+    ExpandShrinkContainer(Main, tile, true); // the same click
+    EXPECT_FALSE(IsShrunk(Main, tile));
+    Wait(100);
+    ExpandShrinkContainer(Main, tile, true);
+    EXPECT_TRUE(IsShrunk(Main, tile));
+    EffectEnds();
+    EXPECT_TRUE(Seen(tile));
+    EXPECT_EQ(BoxWords(tile), "4000,2000 700x950");
+}
+
+TEST_F(ShrinkEffect, WhileItOpensItIsLeftAlone) {
+    const int tile = NewTile(4000, 2000);
+    ExpandShrinkContainer(Main, tile, true);
+    Wait(100);
+    ShrinkBackContainer(Main, true);
+    EXPECT_FALSE(IsShrunk(Main, tile));
+}
+
+TEST_F(ShrinkEffect, OpeningAnotherOneMeanwhileClosesTheFirstForGood) {
+    const int one = NewTile(1000, 2000), two = NewTile(8000, 2000);
+    ExpandShrinkContainer(Main, one, true);
+    Wait(100);
+    ExpandShrinkContainer(Main, two, true);
+    EXPECT_TRUE(IsShrunk(Main, one));
+    EXPECT_TRUE(Seen(one));
+    EXPECT_EQ(Main.Group.ExpandingContainer, two);
+    EffectEnds();
+    EXPECT_TRUE(Seen(two));
+    EXPECT_EQ(Main.Group.ExpandedContainer, two);
+}
+
+TEST_F(ShrinkEffect, AnExitInTheMiddleSavesTheTile) {
+    const int tile = NewTile(4000, 2000);
+    ExpandShrinkContainer(Main, tile, true);
+    Wait(100);
+    Main.IsExiting = true;
+    ShrinkBackContainer(Main, false);
+    EXPECT_EQ(BoxWords(tile), "4000,2000 700x950");
+    EXPECT_FALSE(Effect().Loaded);
+}
+
+TEST_F(ShrinkEffect, ADockingInTheMiddleEndsItAndReturnsTheTile) {
+    const int tile = NewTile(4000, 2000);
+    ExpandShrinkContainer(Main, tile, true);
+    Wait(100);
+    Main.Dock.DockPosition = 2;
+    ShrinkBackContainer(Main, false);
+    EXPECT_FALSE(Effect().Loaded);
+    EXPECT_TRUE(Seen(tile));
+    EXPECT_TRUE(IsShrunk(Main, tile));
+}
+
+TEST_F(ShrinkEffect, AContainerThatDiesInItsEffectTakesTheEffectAlong) {
+    const int tile = NewTile(4000, 2000);
+    ExpandShrinkContainer(Main, tile, true);
+    Wait(100);
+    DeleteContainer(Main, tile, false);
+    EXPECT_FALSE(Effect().Loaded);
+    EXPECT_EQ(Main.Group.ExpandingContainer, -1);
+    EXPECT_FALSE(Main.ConView(tile).Container.Visible);
+    EffectEnds();
+    EXPECT_FALSE(Main.ConView(tile).Container.Visible);
+}
+
+TEST_F(ShrinkEffect, WhileLoadingNothingMoves) {
+    const int index = New({4000, 2000, 3000, 3000});
+    Main.IsLoading = true;
+    ExpandShrinkContainer(Main, index, true);
+    EXPECT_FALSE(Effect().Loaded);
+    EXPECT_TRUE(Seen(index));
 }
 
 } // namespace

@@ -47,6 +47,7 @@ TEST_F(Tile, AnIconOfOursIsSavedByItsBareNameAndFoundBesideTheProgram) {
 
 TEST_F(Tile, AnIconOfTheUsersIsShownFromWhereItIs) {
     computer.Files.Put("/home/user/cat.png", "picture");
+    computer.Images.Sizes["/home/user/cat.png"] = {480, 480};
     const int index = New({0, 0, 3000, 3000});
     AddShrinkIcon(Main, "/home/user/cat.png", index);
     EXPECT_EQ(Main.ConView(index).IconFile, "/home/user/cat.png");
@@ -57,6 +58,31 @@ TEST_F(Tile, AnIconThatIsMissingShowsTheDefaultAndKeepsItsPath) {
     AddShrinkIcon(Main, "/gone/cat.png", index);
     EXPECT_EQ(Main.Con(index).ShrinkPath, "/gone/cat.png");
     EXPECT_EQ(Main.ConView(index).IconFile, computer.Places.Data + "/emptyicon.ico");
+}
+
+TEST_F(Tile, AnIconThatIsNoPictureShowsTheDefaultAndKeepsItsPath) {
+    computer.Files.Put("/home/user/letter.txt", "dear");
+    const int index = New({0, 0, 3000, 3000});
+    AddShrinkIcon(Main, "/home/user/letter.txt", index);
+    EXPECT_EQ(Main.Con(index).ShrinkPath, "/home/user/letter.txt");
+    EXPECT_EQ(Main.ConView(index).IconFile, computer.Places.Data + "/emptyicon.ico");
+}
+
+TEST_F(Tile, TheContainerMadeLastHasTheEmptyIconUnlessItIsGivenOne) {
+    New({0, 0, 3000, 3000});
+    const int last = New({0, 0, 3000, 3000});
+    AddDefaultShrinkIcon(Main, "");
+    EXPECT_EQ(Main.Con(last).ShrinkPath, "emptyicon.ico");
+    AddDefaultShrinkIcon(Main, "note.ico");
+    EXPECT_EQ(Main.ConView(last).IconFile, computer.Places.Data + "/note.ico");
+}
+
+TEST_F(Tile, AContainerThatHappensToHaveTheNewSizeIsLaidAsATile) {
+    const int index = New({0, 0, 650, 870});
+    SetContainerShrinkSize(Main, index, 650, 870);
+    EXPECT_TRUE(IsShrunk(Main, index));
+    EXPECT_TRUE(Main.ConView(index).ContainerIcon.Visible);
+    EXPECT_FALSE(Main.ConView(index).ContainerLabel.Visible);
 }
 
 TEST_F(Tile, AnIconNamedInAnotherProgramFolderIsFoundBesideThisOne) {

@@ -1,5 +1,7 @@
 #include "containers/workspace_fixture.h"
 
+#include "core/caption.h"
+
 namespace quill {
 namespace {
 
@@ -45,6 +47,25 @@ TEST_F(WindowLayout, ACollapsedWindowHasNoNegativeSizes) {
     EXPECT_EQ(fake::Words(Main.View.picBack.Place), "20,15 0x0");
     EXPECT_EQ(Main.View.lblCaption.Place.Width, 0);
     EXPECT_EQ(Main.View.PicMenu.Place.Left, 0);
+}
+
+TEST_F(WindowLayout, TheFrameOfGroupedShortcutsStandsInTheMiddleBelowTheTitle) {
+    ResizeForm(Main);
+    EXPECT_FALSE(Main.View.FrameLinkGroup.Visible);
+    Main.Group.FrameLinkGroup = true;
+    Main.View.FrameLinkGroup.Place = {0, 0, 4000, 3000};
+    ResizeForm(Main);
+    EXPECT_TRUE(Main.View.FrameLinkGroup.Visible);
+    EXPECT_EQ(fake::Words(Main.View.FrameLinkGroup.Place), "4000,450 4000x3000");
+}
+
+TEST_F(WindowLayout, ATitleInAnyAlphabetStandsInTheOneCaption) {
+    const auto before = fake::Words(Main.View.lblCaption.Place);
+    SetCaption(Main, "\u4ed5\u4e8b \U0001F4CC \u0420\u0430\u0431\u043e\u0442\u0430");
+    ResizeForm(Main);
+    EXPECT_EQ(Find(OnBack, ElementKind::lblCaption, -1).Name,
+              "\u4ed5\u4e8b \U0001F4CC \u0420\u0430\u0431\u043e\u0442\u0430");
+    EXPECT_EQ(fake::Words(Main.View.lblCaption.Place), before);
 }
 
 TEST_F(WindowLayout, TheWorkspaceIsNeverLargerThanItsWindow) {

@@ -79,7 +79,7 @@ TEST_F(Exit, AnErrorInTheSaveDoesNotKeepItFromEnding) {
 TEST_F(Exit, AnExpandedTileIsSavedAsATile) {
     desk.StartWorkspace();
     desk.ClickOn(ElementKind::shapeShrink, 0); // becomes a tile
-    desk.Wait(100);
+    desk.Wait(1000);
     desk.ClickOn(ElementKind::ContainerIcon, 0);
     ASSERT_EQ(desk.Main->Group.ExpandedContainer, 0);
     desk.ExitWorkspace();

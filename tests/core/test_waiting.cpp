@@ -4,6 +4,7 @@
 #include "core/menus.h"
 #include "core/splash.h"
 #include "core/start.h"
+#include "dock/frames.h"
 #include "dock/docking.h"
 #include "fake/desk.h"
 #include "persistence/backup.h"
@@ -81,8 +82,7 @@ TEST_F(Waiting, TheSlideIsHeldBackForAsLongAsAnyQuestionIsOpen) {
 
 TEST_F(Waiting, FramesRunWhileWantedAndNoneRunsAfterTheExit) {
     int frames = 0;
-    desk.Main->Dock.FrameHandler = [&](frmMain&) { ++frames; };
-    desk.Computer.Clock.WantFrames(true);
+    StartFrames(*desk.Main, FrameStream::Slide, 50, [&](frmMain&) { ++frames; });
     desk.Wait(100);
     EXPECT_EQ(frames, 5);
     desk.Main->IsExiting = true;
@@ -92,10 +92,9 @@ TEST_F(Waiting, FramesRunWhileWantedAndNoneRunsAfterTheExit) {
 
 TEST_F(Waiting, AnAnimationThatStartsAgainTakesTheFramesOver) {
     std::string ran;
-    desk.Main->Dock.FrameHandler = [&](frmMain&) { ran += "a"; };
-    desk.Computer.Clock.WantFrames(true);
+    StartFrames(*desk.Main, FrameStream::Slide, 50, [&](frmMain&) { ran += "a"; });
     desk.Wait(40);
-    desk.Main->Dock.FrameHandler = [&](frmMain&) { ran += "b"; };
+    StartFrames(*desk.Main, FrameStream::Slide, 50, [&](frmMain&) { ran += "b"; });
     desk.Wait(40);
     EXPECT_EQ(ran, "aabb");
 }

@@ -37,6 +37,7 @@ WINDOW_MANAGERS = {
     "icewm": ["icewm"],
     "metacity": ["metacity", "--sm-disable"],
 }
+ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
 NEEDS_BUS = {"kwin", "mutter", "xfwm4"}
 
 
@@ -91,9 +92,10 @@ def _end(process):
 
 class Desktop:
     """geometry "1280x800"; wm a key of WINDOW_MANAGERS or None for none at all; bus=True gives the
-    programs a session bus of their own, otherwise the bus address is one where nobody answers."""
+    programs a session bus of their own, otherwise the bus address is one where nobody answers;
+    accessible=True one with the bus of assistive technology, and programs that believe somebody listens."""
 
-    def __init__(self, geometry="1280x800", wm="openbox", bus=False, compositor=False):
+    def __init__(self, geometry="1280x800", wm="openbox", bus=False, compositor=False, accessible=False):
         self.size = tuple(int(part) for part in geometry.split("x"))
         self.wm = wm
         self._processes = []
@@ -101,7 +103,9 @@ class Desktop:
         self.home = tempfile.mkdtemp(prefix="quillmere-desktop-")
         self.x = None
         try:
-            self._start(bus, compositor)
+            self._start(bus or accessible, compositor)
+            if accessible:
+                self._start_accessibility()
         except BaseException:
             self.close()
             raise
@@ -158,6 +162,14 @@ class Desktop:
         if not select.select([process.stdout], [], [], PATIENCE)[0]:
             raise Waited("the session bus did not come up: " + self.log_of("dbus-daemon"))
         return process.stdout.readline().decode().strip()
+
+    def _start_accessibility(self):
+        """A program that finds the bus of assistive technology late would tell nothing until then."""
+        self.env.pop("NO_AT_BRIDGE")
+        self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        self._background([ACCESSIBILITY_BUS, "--launch-immediately"])
+        until(lambda: self.x.text(self.x.root, "AT_SPI_BUS"),
+              "the bus of assistive technology is there: " + self.log_of(ACCESSIBILITY_BUS))
 
     def _start_window_manager(self, name):
         self.wm = name

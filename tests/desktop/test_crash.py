@@ -87,8 +87,8 @@ class Crash(DesktopTest):
         top = y + (15 + 900 + 145) // 15
         count = self.calls()
         self.desktop.click(left, top)
-        until(lambda: not app.running() or self.calls() > count, "the fold is saved")
-        app.settle()
+        until(lambda: not app.running() or self.calls() > count, "the save begins")
+        self.is_up(app)  # the save is one turn of the event loop, which answers when it is through
 
     def calls(self):
         try:

@@ -1,4 +1,4 @@
-#include "dock/docking.h"
+#include "dock/clsTick.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +12,36 @@ TEST(FrameClock, ARateThatIsNotAboveZeroIsRefused) {
     EXPECT_EQ(tick.Add(0, false), -1);
     EXPECT_EQ(tick.Add(-50, false), -1);
     EXPECT_EQ(tick.Add(50, false), 0);
+}
+
+TEST(FrameClock, StreamsAreNumberedInTheOrderOfTheirComingAndStartIsTold) {
+    clsTick tick;
+    EXPECT_EQ(tick.Add(50, false), 0);
+    EXPECT_EQ(tick.Add(0, false), -1);
+    EXPECT_EQ(tick.Add(12.5, true), 1);
+    EXPECT_TRUE(tick.start(1000 * ms));
+    EXPECT_EQ(tick.Due(999 * ms), -1);
+    EXPECT_EQ(tick.Due(1000 * ms), 0);
+    EXPECT_EQ(tick.Due(1000 * ms), 1);
+    EXPECT_EQ(tick.Due(1079 * ms), 0);
+}
+
+TEST(FrameClock, AStreamThatWasNeverStartedIsDueAtTheFirstQuestion) {
+    clsTick tick;
+    tick.Add(50, false);
+    EXPECT_EQ(tick.Due(1000 * ms), 0);
+    EXPECT_EQ(tick.Due(1000 * ms), -1);
+    EXPECT_EQ(tick.Due(1020 * ms), 0);
+}
+
+TEST(FrameClock, NothingThatIsNotDueIsCounted) {
+    clsTick tick;
+    tick.Add(50, false);
+    tick.start(1000 * ms);
+    tick.Due(1000 * ms);
+    tick.Due(1010 * ms);
+    tick.Due(1019 * ms);
+    EXPECT_EQ(tick.CountOf(0), 1);
 }
 
 TEST(FrameClock, FiftyFramesASecondAreDueEveryTwentyMilliseconds) {
@@ -45,6 +75,19 @@ TEST(FrameClock, ALittleLateCatchesUpAndMuchLateStartsOver) {
     EXPECT_EQ(tick.Due(1900 * ms), 0);
     EXPECT_EQ(tick.Due(1900 * ms), -1); // more than a fifth of a second: from now on
     EXPECT_EQ(tick.Due(1920 * ms), 0);
+}
+
+TEST(FrameClock, AFifthOfASecondLateIsStillMadeUpFor) {
+    clsTick tick;
+    tick.Add(50, false);
+    tick.start(1000 * ms);
+    EXPECT_EQ(tick.Due(1200 * ms), 0);
+    EXPECT_EQ(tick.Due(1200 * ms), 0);
+    clsTick other;
+    other.Add(50, false);
+    other.start(1000 * ms);
+    EXPECT_EQ(other.Due(1200 * ms + 1), 0);
+    EXPECT_EQ(other.Due(1200 * ms + 1), -1);
 }
 
 TEST(FrameClock, AStreamWithTheSkipFlagNeverStartsOver) {

@@ -11,7 +11,10 @@ std::string OpacityWords(float opacity) {
 }
 
 std::string PenWords(Pen pen) {
-    return pen.Width == 0 ? "" : " pen " + std::to_string(pen.Width) + " " + ColorWords(pen.Ink);
+    static constexpr const char* Styles[] = {"", " dashed", " dotted", " dash-dotted", " dash-dot-dotted"};
+    if (pen.Width == 0) return "";
+    return " pen " + std::to_string(pen.Width) + " " + ColorWords(pen.Ink) +
+           Styles[static_cast<int>(pen.Style)];
 }
 
 std::string StyleWords(const TextStyle& style) {
@@ -25,10 +28,12 @@ std::string StyleWords(const TextStyle& style) {
         {style.WordBreak, " wordbreak"},
         {style.Elide, " elide"},
         {style.VerticalCenter, " vcenter"},
+        {style.Clip, " clip"},
         {style.Halo, " halo"},
     };
     for (const auto& [set, word] : flags)
         if (set) text += word;
+    if (style.Font.Weight != 0) text += " weight " + std::to_string(style.Font.Weight);
     return text;
 }
 
@@ -49,6 +54,11 @@ void FakeCanvas::Line(Point from, Point to, Pen pen) {
 
 void FakeCanvas::Text(const Rect& place, std::string_view text, const TextStyle& style) {
     Lines.push_back("text \"" + std::string(text) + "\" " + Words(place) + StyleWords(style));
+}
+
+void FakeCanvas::RotatedText(Point at, std::string_view text, const TextStyle& style, int tenths) {
+    Lines.push_back("rotated \"" + std::string(text) + "\" " + Words(at) + " turned " + std::to_string(tenths) +
+                    StyleWords(style));
 }
 
 void FakeCanvas::Symbol(std::string_view name, const Rect& place, Color ink, float opacity) {

@@ -19,6 +19,7 @@ public:
     void RoundRect(const Rect& place, float radius, Color fill, Pen pen, float opacity) override;
     void Line(Point from, Point to, Pen pen) override;
     void Text(const Rect& place, std::string_view text, const TextStyle& style) override;
+    void RotatedText(Point at, std::string_view text, const TextStyle& style, int tenths) override;
     void Symbol(std::string_view name, const Rect& place, Color ink, float opacity) override;
     bool Icon(const IconSource& source, const Rect& place) override;
     bool Picture(const std::string& path, const Rect& place) override;

@@ -8,7 +8,6 @@ namespace quill::fake {
 
 namespace {
 
-constexpr std::int64_t FrameMilliseconds = 20;
 constexpr std::int64_t Never = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t DayMilliseconds = 86'400'000;
 
@@ -57,9 +56,9 @@ void FakeClock::Start(TimerId timer, int milliseconds) {
     timers_[timer] = {interval, now_ + interval, ++order_};
 }
 
-void FakeClock::WantFrames(bool wanted) {
-    if (wanted && !framesWanted_) nextFrame_ = now_ + FrameMilliseconds;
-    framesWanted_ = wanted;
+void FakeClock::WantFrames(int perSecond) {
+    if (perSecond > 0 && perSecond != framesWanted_) nextFrame_ = now_ + 1000 / perSecond;
+    framesWanted_ = perSecond;
 }
 
 void FakeClock::After(std::int64_t milliseconds, std::function<void()> event) {
@@ -74,7 +73,7 @@ int FakeClock::IntervalOf(TimerId timer) const {
 void FakeClock::StopEverything() {
     timers_.clear();
     events_.clear();
-    framesWanted_ = false;
+    framesWanted_ = 0;
 }
 
 void FakeClock::Advance(std::int64_t milliseconds) {
@@ -85,7 +84,7 @@ void FakeClock::Advance(std::int64_t milliseconds) {
 }
 
 std::int64_t FakeClock::NextDue() const {
-    std::int64_t due = framesWanted_ ? nextFrame_ : Never;
+    std::int64_t due = framesWanted_ > 0 ? nextFrame_ : Never;
     for (const auto& event : events_) due = std::min(due, event.Due);
     for (const auto& [id, timer] : timers_) due = std::min(due, timer.Due);
     return due;
@@ -118,8 +117,8 @@ bool FakeClock::RunTimer(std::int64_t until) {
 }
 
 bool FakeClock::RunFrame(std::int64_t until) {
-    if (!framesWanted_ || nextFrame_ > until) return false;
-    nextFrame_ += FrameMilliseconds;
+    if (framesWanted_ == 0 || nextFrame_ > until) return false;
+    nextFrame_ += 1000 / framesWanted_;
     if (OnFrame) OnFrame();
     return true;
 }

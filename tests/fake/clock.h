@@ -1,5 +1,5 @@
 // The fake computer's clock: it moves only when told. Advance runs what falls due in order: single events,
-// then timers (of two that are due at once the one that was started first), then frames of 20 ms. Who is
+// then timers (of two that are due at once the one that was started first), then frames. Who is
 // called stands in OnTimer and OnFrame; fake/desk.h leads them to the workspace's handlers.
 #pragma once
 
@@ -20,7 +20,7 @@ public:
     void Start(TimerId timer, int milliseconds) override;
     void Stop(TimerId timer) override { timers_.erase(timer); }
     bool IsRunning(TimerId timer) const override { return timers_.contains(timer); }
-    void WantFrames(bool wanted) override;
+    void WantFrames(int perSecond) override;
 
     std::function<void(TimerId)> OnTimer;
     std::function<void()> OnFrame;
@@ -32,8 +32,8 @@ public:
 
     int IntervalOf(TimerId timer) const; // 0 when it does not run
     std::size_t RunningTimers() const { return timers_.size(); }
-    bool FramesWanted() const { return framesWanted_; }
-    void StopEverything(); // the process is gone
+    int FramesWanted() const { return framesWanted_; } // a second
+    void StopEverything();                             // the process is gone
 
 private:
     struct Running {
@@ -58,7 +58,7 @@ private:
     std::int64_t order_ = 0;
     std::map<TimerId, Running> timers_;
     std::vector<Event> events_;
-    bool framesWanted_ = false;
+    int framesWanted_ = 0;
     std::int64_t nextFrame_ = 0;
 };
 

@@ -21,8 +21,8 @@ Computer::Computer() {
 }
 
 Platform Computer::MakePlatform() {
-    return {Files,     Places, Clock,     Instance, Session, Windows, Shell,
-            Questions, Texts,  Catalogue, Images,   Worker,  Zip};
+    return {Files,   Places, Clock, Instance,  Session, Windows, Shell, Questions,
+            Dialogs, Drags,  Texts, Catalogue, Images,  Worker,  Zip};
 }
 
 void Computer::EndProcess() {

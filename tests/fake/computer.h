@@ -6,6 +6,8 @@
 #pragma once
 
 #include "fake/clock.h"
+#include "fake/dialogs.h"
+#include "fake/drags.h"
 #include "fake/files.h"
 #include "fake/images.h"
 #include "fake/instance.h"
@@ -39,6 +41,8 @@ struct Computer {
     FakeWindows Windows;
     FakeShell Shell{Files, Clock};
     FakeQuestions Questions;
+    FakeDialogs Dialogs;
+    FakeDrags Drags;
     FakeTexts Texts;
     FakeCatalogue Catalogue;
     FakeImages Images;

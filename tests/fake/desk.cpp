@@ -42,7 +42,7 @@ Rect Stretched(Rect place, int edges, Point by) {
 }
 
 std::string NameOf(SurfaceId surface) {
-    static constexpr const char* Names[] = {"Workspace", "Container", "Picture"};
+    static constexpr const char* Names[] = {"Workspace", "Container", "Picture", "Overlay"};
     const std::string name = Names[static_cast<int>(surface.Kind)];
     return surface.Index == -1 ? name : name + " " + std::to_string(surface.Index);
 }
@@ -182,7 +182,9 @@ Rect Desk::OnScreen(SurfaceId surface) const {
 SurfaceId Desk::TopAt(Point screen) const {
     SurfaceId top;
     for (const SurfaceId surface : Surfaces(*Main))
-        if (SurfaceVisible(*Main, surface) && OnScreen(surface).Contains(screen.X, screen.Y)) top = surface;
+        if (surface.Kind != SurfaceKind::Overlay && SurfaceVisible(*Main, surface) &&
+            OnScreen(surface).Contains(screen.X, screen.Y))
+            top = surface;
     return top;
 }
 

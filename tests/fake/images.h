@@ -15,9 +15,14 @@ public:
         const auto found = Sizes.find(path);
         return found == Sizes.end() ? Size{} : found->second;
     }
+    PixelGrid PixelsOf(const IconSource& source, int) const override {
+        const auto found = Pixels.find(source.File);
+        return found == Pixels.end() ? PixelGrid{} : found->second;
+    }
     void Forget(const std::string& path) override { Forgotten.push_back(path); }
 
     std::map<std::string, Size> Sizes;
+    std::map<std::string, PixelGrid> Pixels; // by file
     std::vector<std::string> Forgotten;
 };
 

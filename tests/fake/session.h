@@ -40,12 +40,14 @@ public:
         ++SplashesShown;
         if (OnSplash) OnSplash();
     }
+    bool ReducedMotion() const override { return LessMotion; }
     void PrintOut(const std::string& text) override { Out += text; }
     void PrintError(const std::string& text) override { Err += text; }
 
     static constexpr int NeverQuit = -1; // what Run returns when OnRun ended and nobody called Quit
 
     std::optional<Failure> DisplayFailure; // OpenDisplay fails with it
+    bool LessMotion = false;
     int DisplayOpened = 0;
     frmMain* Attached = nullptr;
     int Runs = 0;

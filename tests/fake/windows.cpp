@@ -74,6 +74,11 @@ void FakeWindows::BeginResize(WindowId window, int edges) {
     Log.push_back("beginresize " + NameOf(window) + " " + std::to_string(edges));
 }
 
+void FakeWindows::ShowCursor(bool shown) {
+    CursorShown = shown;
+    Log.push_back(shown ? "show cursor" : "hide cursor");
+}
+
 void FakeWindows::SetCursorPos(Point place) {
     Cursor = place;
     Log.push_back("cursor " + Words(place));

@@ -37,6 +37,7 @@ public:
     std::vector<Monitor> Monitors() const override { return Screens; }
     Point GetCursorPos() const override { return Cursor; }
     void SetCursorPos(Point place) override;
+    void ShowCursor(bool shown) override;
 
     const FakeWindow& Of(WindowId window) const; // one that was never touched is a default one
     void MovedByPerson(const Rect& place);       // frmMain, as the window manager does it
@@ -45,6 +46,7 @@ public:
 
     std::vector<Monitor> Screens{{{0, 0, 28800, 16200}, {0, 0, 28800, 15750}}}; // 1920 by 1080, a panel below
     Point Cursor{14400, 8100};
+    bool CursorShown = true;
     std::optional<WindowId> Foreground; // none: another program has it
     std::vector<WindowId> Stacking;     // shown windows, the last is the top
     std::vector<std::string> Log;       // "place frmMain 0,0 100x100", "show frmMain active" ...

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/geometry.h"
+#include "platform/system_colors.h"
 
 #include <charconv>
 #include <string>
@@ -22,8 +23,9 @@ inline std::string Words(const Rect& rect) {
     return Words(rect.Left) + "," + Words(rect.Top) + " " + Words(rect.Width) + "x" + Words(rect.Height);
 }
 
-// Black and white by name, else six digits as red, green, blue.
+// Black and white by name, system colours by number, else six digits as red, green, blue.
 inline std::string ColorWords(Color color) {
+    if (IsSystemColor(color)) return "system" + std::to_string(color & 0xFF);
     if (color == 0) return "black";
     if (color == 0xFFFFFF) return "white";
     static constexpr char Digits[] = "0123456789ABCDEF";

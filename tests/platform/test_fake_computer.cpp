@@ -48,9 +48,9 @@ TEST_F(FakeClockTest, ATimerMayStopItselfAndFramesEndWhenNobodyWantsThem) {
     clock.OnTimer = [this](TimerId timer) {
         Note("once");
         clock.Stop(timer);
-        clock.WantFrames(false);
+        clock.WantFrames(0);
     };
-    clock.WantFrames(true);
+    clock.WantFrames(50);
     clock.Start(Tip, 50);
     clock.Advance(200);
     EXPECT_EQ(seen, "frame20 frame40 once50 ");

@@ -19,6 +19,7 @@ QFont MakeFont(const FontSpec& spec) {
     const double points = std::clamp(spec.Points, smallest, largest);
     font.setPointSizeF(points * dotsPerInch / QGuiApplication::primaryScreen()->logicalDotsPerInchY());
     font.setBold(spec.Bold);
+    if (spec.Weight > 0) font.setWeight(static_cast<QFont::Weight>(spec.Weight));
     font.setItalic(spec.Italic);
     font.setStrikeOut(spec.StrikeThrough);
     return font;
@@ -28,7 +29,7 @@ QFont MakeFont(const FontSpec& spec) {
 
 const FontEntry& Fonts::Get(const FontSpec& spec) const {
     Key key{spec.Name, spec.Points,
-            (spec.Bold ? 1 : 0) | (spec.Italic ? 2 : 0) | (spec.StrikeThrough ? 4 : 0)};
+            (spec.Bold ? 1 : 0) | (spec.Italic ? 2 : 0) | (spec.StrikeThrough ? 4 : 0), spec.Weight};
     const auto found = made_.find(key);
     if (found != made_.end()) return found->second;
     const QFont font = MakeFont(spec);

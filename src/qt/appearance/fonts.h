@@ -23,7 +23,7 @@ public:
     const FontEntry& Get(const FontSpec& spec) const;
 
 private:
-    using Key = std::tuple<std::string, float, int>; // name, points, style bits
+    using Key = std::tuple<std::string, float, int, int>; // name, points, style bits, weight
     mutable std::map<Key, FontEntry> made_;
 };
 

@@ -37,6 +37,12 @@ QImage Icons::Get(const IconSource& source, int side, const Spot& spot) {
     return entry->Image;
 }
 
+QImage Icons::Now(const IconSource& source, int side) {
+    if (side <= 0) return {};
+    const IconAnswer answer = FindIcon(source, side);
+    return answer.Image.isNull() ? FromTheme(answer.Names, side) : answer.Image;
+}
+
 void Icons::Forget(const std::string& path) {
     for (auto at = entries_.begin(); at != entries_.end();)
         at = (*at)->Source.File == path ? entries_.erase(at) : std::next(at);

@@ -23,6 +23,8 @@ public:
 
     // Null while it is not there, or when there is none.
     QImage Get(const IconSource& source, int side, const Spot& spot);
+    // Fetched now, for who needs the picture itself; null when there is none.
+    QImage Now(const IconSource& source, int side);
     void Forget(const std::string& path);
     void Begin(); // the first picture is on the screen
 

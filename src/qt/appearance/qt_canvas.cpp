@@ -21,6 +21,12 @@ Qt::Alignment AlignOf(TextAlign align) {
     return align == TextAlign::Right ? Qt::AlignRight : Qt::AlignLeft;
 }
 
+Qt::PenStyle StyleOf(PenStyle style) {
+    static constexpr Qt::PenStyle styles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
+                                              Qt::DashDotDotLine};
+    return styles[static_cast<std::size_t>(style)];
+}
+
 BlockShape ShapeOf(const Rect& place, const TextStyle& style) {
     BlockShape shape;
     shape.Width = place.Width / TwipsPerPixel;
@@ -29,6 +35,14 @@ BlockShape ShapeOf(const Rect& place, const TextStyle& style) {
     shape.Align = AlignOf(style.Align);
     if (style.WordBreak) shape.Height = place.Height / TwipsPerPixel;
     return shape;
+}
+
+bool Fits(const TextBlock& block, const Rect& place) {
+    return block.Width() * TwipsPerPixel <= place.Width && block.Height() * TwipsPerPixel <= place.Height;
+}
+
+QString OneLine(QString text) {
+    return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
 // A text that is not broken may be longer and higher than its place.
@@ -88,9 +102,15 @@ void QtCanvas::RoundRect(const Rect& place, float radius, Color fill, Pen pen, f
     const qreal roundest = std::min(outer.width(), outer.height()) / 2;
     const qreal corner = std::max(0.0, std::min<qreal>(radius / TwipsPerPixel, roundest) - width / 2);
     Smooth(corner > 0);
-    painter_.setPen(width > 0 ? QPen(Ink(pen.Ink, opacity), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin)
-                              : QPen(Qt::NoPen));
+    const bool apart = width > 0 && opacity < 1; // or the inner half of the line would show the fill as well
+    const QPen ink(Ink(pen.Ink, opacity), width, StyleOf(pen.Style), Qt::FlatCap, Qt::MiterJoin);
+    painter_.setPen(width > 0 && !apart ? ink : QPen(Qt::NoPen));
     painter_.setBrush(Ink(fill, opacity));
+    if (!apart) return painter_.drawRoundedRect(line, corner, corner);
+    const qreal inner = std::max(0.0, corner - width / 2);
+    painter_.drawRoundedRect(outer.adjusted(width, width, -width, -width), inner, inner);
+    painter_.setPen(ink);
+    painter_.setBrush(Qt::NoBrush);
     painter_.drawRoundedRect(line, corner, corner);
 }
 
@@ -122,9 +142,27 @@ void QtCanvas::Text(const Rect& place, std::string_view text, const TextStyle& s
     if (style.VerticalCenter)
         corner.Y += (place.Height - static_cast<float>(block.Height()) * TwipsPerPixel) / 2;
     const QPointF at = Snap(corner);
+    const bool cut = style.Clip && !Fits(block, place);
+    if (cut) PushClip(place, 0);
     if (style.Halo) DrawHalo(painter_, block, at, style.HaloColor, scale_);
     painter_.setPen(Ink(style.Ink));
     block.Draw(painter_, at);
+    if (cut) PopClip();
+}
+
+void QtCanvas::RotatedText(Point at, std::string_view text, const TextStyle& style, int tenths) {
+    if (text.empty()) return;
+    const TextBlock block(looks_.Fonts.Get(style.Font), OneLine(quill::Text(text)), {});
+    constexpr double tenthsInADegree = 10;
+    const QPointF corner = Snap(at);
+    const QTransform turn = QTransform::fromTranslate(corner.x(), corner.y()).rotate(-tenths / tenthsInADegree);
+    const QRectF upright(-1, -1, block.Width() + 2, block.Height() + 2);
+    if (!exposed_.intersects(turn.mapRect(upright).toAlignedRect())) return;
+    painter_.save();
+    painter_.setTransform(turn, true);
+    painter_.setPen(Ink(style.Ink));
+    block.Draw(painter_, {0, 0});
+    painter_.restore();
 }
 
 void QtCanvas::Symbol(std::string_view name, const Rect& place, Color ink, float opacity) {

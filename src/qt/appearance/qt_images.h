@@ -12,6 +12,7 @@ public:
     explicit QtImages(const DisplayHolder& display) : display_(display) {}
 
     Size PictureSize(const std::string& path) const override;
+    PixelGrid PixelsOf(const IconSource& source, int edgePixels) const override;
     void Forget(const std::string& path) override;
 
 private:

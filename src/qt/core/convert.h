@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/geometry.h"
+#include "platform/system_colors.h"
 
 #include <QColor>
 #include <QPointF>
@@ -20,8 +21,10 @@ inline QString Text(std::string_view bytes) {
 inline std::string Bytes(const QString& text) {
     return text.toStdString();
 }
+Color ColorOfDesktop(Color code); // a system colour as it is now
 inline QColor Ink(Color color, float opacity = 1) {
-    return QColor(RedOf(color), GreenOf(color), BlueOf(color), qRound(opacity * 255));
+    const Color shown = IsSystemColor(color) ? ColorOfDesktop(color) : color;
+    return QColor(RedOf(shown), GreenOf(shown), BlueOf(shown), qRound(opacity * 255));
 }
 inline QPoint PixelPoint(Point place) {
     return {qRound(place.X / TwipsPerPixel), qRound(place.Y / TwipsPerPixel)};

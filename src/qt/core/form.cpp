@@ -1,5 +1,7 @@
 #include "qt/core/form.h"
 
+#include <QAccessible>
+#include <QAccessibleEvent>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
@@ -12,13 +14,18 @@ constexpr int widestPrompt = 480; // pixels; longer prompts are broken
 
 } // namespace
 
-Form::Form(const QString& title, QWidget* parent) : QDialog(parent), rows_(new QVBoxLayout) {
+Form::Form(const QString& title, QWidget* parent)
+    : QDialog(parent), rows_(new QVBoxLayout), refusal_(new QLabel) {
     setWindowTitle(title);
     auto* whole = new QVBoxLayout(this);
     buttons_ = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     whole->addLayout(rows_);
     whole->addStretch();
+    whole->addWidget(refusal_);
     whole->addWidget(buttons_);
+    refusal_->setTextFormat(Qt::PlainText);
+    refusal_->setWordWrap(true);
+    refusal_->hide();
     connect(buttons_, &QDialogButtonBox::accepted, this, [this] { accept(); });
     connect(buttons_, &QDialogButtonBox::rejected, this, [this] { reject(); });
     buttons_->button(QDialogButtonBox::Ok)->setDefault(true);
@@ -45,9 +52,28 @@ QPushButton* Form::AddButton(const QString& caption) {
     return buttons_->addButton(caption, QDialogButtonBox::ActionRole);
 }
 
+QString Form::TakenMnemonics() const {
+    QString taken;
+    for (const auto* button : buttons_->buttons()) {
+        const QString caption = button->text();
+        const qsizetype at = caption.indexOf(QLatin1Char('&'));
+        if (at >= 0 && at + 1 < caption.size()) taken += caption[at + 1];
+    }
+    return taken;
+}
+
 void Form::accept() {
     WriteBack();
+    const QString refusal = Refusal();
+    if (!refusal.isEmpty()) return Tell(refusal);
     QDialog::accept();
+}
+
+void Form::Tell(const QString& refusal) {
+    refusal_->setText(refusal);
+    refusal_->show();
+    QAccessibleEvent alert(refusal_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 } // namespace quill

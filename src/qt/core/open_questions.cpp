@@ -4,6 +4,9 @@
 #include "dock/docking.h"
 
 #include <QDialog>
+#include <QPointer>
+
+#include <utility>
 
 namespace quill {
 namespace {
@@ -19,12 +22,16 @@ void Cancel(QWidget& question) {
 
 void OpenQuestions::CancelAll() {
     const auto open = open_; // each is taken off by its own end
-    for (auto question = open.rbegin(); question != open.rend(); ++question)
-        if (*question) Cancel(**question);
+    for (auto cancel = open.rbegin(); cancel != open.rend(); ++cancel) (*cancel)();
 }
 
-OpenQuestions::Entry::Entry(OpenQuestions& questions, QWidget& widget) : questions_(questions) {
-    questions_.open_.emplace_back(&widget);
+OpenQuestions::Entry::Entry(OpenQuestions& questions, QWidget& widget)
+    : Entry(questions, [question = QPointer<QWidget>(&widget)] {
+          if (question) Cancel(*question);
+      }) {}
+
+OpenQuestions::Entry::Entry(OpenQuestions& questions, std::function<void()> cancel) : questions_(questions) {
+    questions_.open_.push_back(std::move(cancel));
     if (questions_.attached_.Main != nullptr)
         pause_ = std::make_unique<DialogPause>(*questions_.attached_.Main);
 }

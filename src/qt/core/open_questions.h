@@ -1,16 +1,15 @@
-// OpenQuestions: the boxes, dialogs and menus that wait for a person at this moment, the innermost last.
-// While one is open nothing docks. When the program is told to end they are all cancelled, and only then the
-// exit begins.
+// OpenQuestions: the boxes, dialogs, menus and drags of ours that wait for a person at this moment, the
+// innermost last. While one is open nothing docks. When the program is told to end they are all cancelled,
+// and only then the exit begins.
 #pragma once
 
 #include "qt/core/attachment.h"
 
-#include <QPointer>
-#include <QWidget>
-
 #include <functional>
 #include <memory>
 #include <vector>
+
+class QWidget;
 
 namespace quill {
 
@@ -29,6 +28,7 @@ public:
     class Entry {
     public:
         Entry(OpenQuestions& questions, QWidget& widget);
+        Entry(OpenQuestions& questions, std::function<void()> cancel);
         ~Entry();
         Entry(const Entry&) = delete;
         Entry& operator=(const Entry&) = delete;
@@ -40,7 +40,7 @@ public:
 
 private:
     Attachment& attached_;
-    std::vector<QPointer<QWidget>> open_;
+    std::vector<std::function<void()>> open_; // how each is cancelled
 };
 
 } // namespace quill

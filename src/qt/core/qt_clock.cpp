@@ -14,8 +14,8 @@
 namespace quill {
 namespace {
 
-constexpr int coarseFrom = 1000; // milliseconds
-constexpr long frameNanoseconds = 1'000'000'000 / 50;
+constexpr int coarseFrom = 1000;       // milliseconds
+constexpr long second = 1'000'000'000; // nanoseconds
 
 Descriptor MakeBeat() {
     return Descriptor(timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC));
@@ -72,15 +72,15 @@ public:
     }
 
     // A beat of period 0 stands still and costs nothing.
-    void Run(bool wanted) {
-        if (wanted != running_) SetBeat(beat_.Get(), wanted ? frameNanoseconds : 0);
-        running_ = wanted;
+    void Run(int perSecond) {
+        if (perSecond != rate_) SetBeat(beat_.Get(), perSecond > 0 ? second / perSecond : 0);
+        rate_ = perSecond;
     }
 
 private:
     Descriptor beat_;
     QSocketNotifier notifier_;
-    bool running_ = false;
+    int rate_ = 0;
 };
 
 QtClock::QtClock(const Attachment& attached) : attached_(attached) {}
@@ -111,9 +111,9 @@ bool QtClock::IsRunning(TimerId timer) const {
     return timers_ && timers_->IsRunning(timer);
 }
 
-void QtClock::WantFrames(bool wanted) {
-    if (wanted && !frames_) frames_ = std::make_unique<Frames>(attached_);
-    if (frames_) frames_->Run(wanted);
+void QtClock::WantFrames(int perSecond) {
+    if (perSecond > 0 && !frames_) frames_ = std::make_unique<Frames>(attached_);
+    if (frames_) frames_->Run(perSecond);
 }
 
 } // namespace quill

@@ -20,7 +20,7 @@ public:
     void Start(TimerId timer, int milliseconds) override;
     void Stop(TimerId timer) override;
     bool IsRunning(TimerId timer) const override;
-    void WantFrames(bool wanted) override;
+    void WantFrames(int perSecond) override;
 
 private:
     class Timers; // made with the first timer, since it needs the toolkit

@@ -3,7 +3,6 @@
 #include "qt/core/box_text.h"
 #include "qt/core/convert.h"
 #include "qt/core/frmInput.h"
-#include "qt/dock/native_window.h"
 
 #include <QAction>
 #include <QMenu>
@@ -76,45 +75,36 @@ void Fill(QMenu& menu, const std::vector<MenuLine>& lines) {
 int QtQuestions::MsgBox(const std::string& text, int flags, const std::string& title) {
     const int cancelled = IsYesNo(flags) ? AnswerNo : AnswerCancel;
     if (open_.IsEnding()) return cancelled;
-    QMessageBox box(Owner());
+    QMessageBox box(asker_.Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(BoxText(Text(text)));
     box.setWindowTitle(Text(title));
     box.setIcon(IconOf(flags));
     if (flags & BoxSystemModal) box.setWindowFlag(Qt::WindowStaysOnTopHint);
     SetButtons(box, flags);
-    Ask(box);
+    asker_.Ask(box);
     return open_.IsEnding() ? cancelled : AnswerOf(box, flags);
 }
 
 bool QtQuestions::AskInput(InputQuestion& question) {
     if (open_.IsEnding()) return false;
-    frmInput form(question, Owner());
-    return Ask(form) == QDialog::Accepted;
+    frmInput form(question, asker_.Owner());
+    return asker_.Ask(form) == QDialog::Accepted;
 }
 
 int QtQuestions::PopupMenu(const std::vector<MenuLine>& lines, Point place) {
     if (open_.IsEnding() || lines.empty()) return -1;
-    QMenu menu(Owner());
+    QMenu menu(asker_.Owner());
     Fill(menu, lines);
     const OpenQuestions::Entry entry(open_, menu);
-    const QAction* chosen = menu.exec(PixelPoint(place));
+    // A line that assistive technology presses is triggered behind the back of the loop.
+    const QAction* chosen = nullptr;
+    QObject::connect(&menu, &QMenu::triggered, &menu, [&](QAction* line) {
+        chosen = line;
+        menu.close();
+    });
+    menu.exec(PixelPoint(place));
     return chosen != nullptr && !open_.IsEnding() ? chosen->data().toInt() : -1;
-}
-
-QWidget* QtQuestions::Owner() const {
-    auto& main = display_.Get().Stage.Main();
-    return main.isVisible() ? &main : nullptr;
-}
-
-// The workspace is of a kind to which many window managers do not give the keyboard back by themselves.
-int QtQuestions::Ask(QDialog& dialog) {
-    const OpenQuestions::Entry entry(open_, dialog);
-    QWidget* owner = Owner();
-    if (owner != nullptr) qt::PrepareDialogAbove(dialog, *owner);
-    const int answer = dialog.exec();
-    if (owner != nullptr && !open_.IsEnding()) qt::TakeFocus(*owner);
-    return answer;
 }
 
 } // namespace quill

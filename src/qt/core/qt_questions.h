@@ -2,27 +2,20 @@
 #pragma once
 
 #include "platform/questions.h"
-#include "qt/core/display.h"
-#include "qt/core/open_questions.h"
-
-class QDialog;
-class QMenu;
+#include "qt/core/asker.h"
 
 namespace quill {
 
 class QtQuestions : public Questions {
 public:
-    QtQuestions(const DisplayHolder& display, OpenQuestions& open) : display_(display), open_(open) {}
+    QtQuestions(const DisplayHolder& display, OpenQuestions& open) : asker_(display, open), open_(open) {}
 
     int MsgBox(const std::string& text, int flags, const std::string& title) override;
     bool AskInput(InputQuestion& question) override;
     int PopupMenu(const std::vector<MenuLine>& lines, Point place) override;
 
 private:
-    QWidget* Owner() const; // the workspace, when it shows
-    int Ask(QDialog& dialog);
-
-    const DisplayHolder& display_;
+    Asker asker_;
     OpenQuestions& open_;
 };
 

@@ -56,6 +56,7 @@ void QtSession::Attach(frmMain& main) {
     auto& stage = parts_.Display.Get().Stage;
     parts_.Attached.Main = &main;
     main.Marks.Wake = [&stage] { stage.Wake(); };
+    stage.OnFirstPicture = [this] { motion_.Begin(); };
     signals_ = std::make_unique<EndSignals>([this] { EndWished(); });
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &stage,
                      [this](QSessionManager&) { EndWished(); });
@@ -104,6 +105,10 @@ void QtSession::ShowSplashNow() {
     splash.repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
     qt::x11::Flush();
+}
+
+bool QtSession::ReducedMotion() const {
+    return motion_.IsForLess();
 }
 
 void QtSession::PrintOut(const std::string& text) {

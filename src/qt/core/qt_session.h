@@ -8,6 +8,7 @@
 #include "qt/core/display.h"
 #include "qt/core/end_signals.h"
 #include "qt/core/open_questions.h"
+#include "qt/system/motion_wish.h"
 
 #include <QSocketNotifier>
 #include <QTimer>
@@ -41,6 +42,7 @@ public:
     void Quit(int code) override;
     void ProcessPending() override;
     void ShowSplashNow() override;
+    bool ReducedMotion() const override;
     void PrintOut(const std::string& text) override;
     void PrintError(const std::string& text) override;
 
@@ -56,6 +58,7 @@ private:
     int code_ = 0;
     bool quit_ = false;
     bool endWished_ = false;
+    MotionWish motion_;
     std::unique_ptr<EndSignals> signals_;
     std::unique_ptr<QSocketNotifier> calls_;
     std::unique_ptr<QTimer> screens_; // runs while monitors are still changing

@@ -37,18 +37,20 @@ QRegion SolidPart(const QRect& place) {
            place.adjusted(edge, corner, -edge, -corner);
 }
 
-// The order of a parent's children is their stacking, the last on top.
-bool StandInOrder(const QWidget& parent, const std::vector<QWidget*>& wanted) {
+// The order of a parent's children is their stacking, the last on top. What is raised is painted again, so
+// only those are that do not stand in their order yet.
+void BringIntoOrder(const QWidget& parent, const std::vector<QWidget*>& wanted) {
     auto next = wanted.begin();
     for (QObject* child : parent.children())
         if (next != wanted.end() && child == *next) ++next;
-    return next == wanted.end();
+    for (; next != wanted.end(); ++next) (*next)->raise();
 }
 
 } // namespace
 
 Stage::Stage(const Attachment& attached, Looks& looks, std::string iconFolder)
-    : attached_(attached), looks_(looks), iconFolder_(std::move(iconFolder)), notes_(attached, looks.Fonts) {}
+    : attached_(attached), looks_(looks), iconFolder_(std::move(iconFolder)), notes_(attached, looks.Fonts),
+      accessible_(attached, [this](SurfaceId id) { return Find(id); }) {}
 
 Stage::~Stage() = default;
 
@@ -75,8 +77,14 @@ QWidget& Stage::Splash() {
     return *splash_;
 }
 
+QWidget& Stage::Tip() {
+    if (!tip_) tip_ = std::make_unique<TipWidget>(attached_, looks_);
+    return *tip_;
+}
+
 QWidget* Stage::Window(WindowId window) {
     if (window == MainWindow) return &Main();
+    if (window == TipWindow) return &Tip();
     return window == SplashWindow ? &Splash() : nullptr;
 }
 
@@ -102,12 +110,14 @@ bool Stage::eventFilter(QObject* object, QEvent* event) {
 
 void Stage::Apply(const MarkSet& set) {
     if (set.Splash && splash_) splash_->update();
+    if (set.Tip && tip_) tip_->update();
     if (set.Everything)
         SyncAll();
     else
         SyncMarked(set);
     if (set.Stacking || std::exchange(restack_, false)) Restack();
     notes_.Follow([this](int index) { return Sync({SurfaceKind::Container, index}); });
+    accessible_.Follow(set);
 }
 
 void Stage::SyncMarked(const MarkSet& set) {
@@ -115,6 +125,7 @@ void Stage::SyncMarked(const MarkSet& set) {
     for (const int index : set.Pictures) Update(Sync({SurfaceKind::Picture, index}));
     for (const int index : set.Notes) Update(Find({SurfaceKind::Container, index}));
     if (set.Workspace) RepaintWorkspace();
+    if (set.Overlay) Update(Sync({SurfaceKind::Overlay, -1}));
 }
 
 void Stage::SyncAll() {
@@ -192,10 +203,7 @@ void Stage::Restack() {
     std::map<QWidget*, std::vector<QWidget*>> byParent;
     for (const SurfaceId id : Surfaces(*attached_.Main))
         if (QWidget* surface = Find(id)) byParent[surface->parentWidget()].push_back(surface);
-    for (const auto& [parent, wanted] : byParent) {
-        if (StandInOrder(*parent, wanted)) continue;
-        for (QWidget* surface : wanted) surface->raise();
-    }
+    for (const auto& [parent, wanted] : byParent) BringIntoOrder(*parent, wanted);
     notes_.Raise();
 }
 
@@ -223,6 +231,7 @@ void Stage::FirstPictureStands() {
         if (!image.isNull()) icon.addPixmap(image);
     }
     if (!icon.isNull()) QGuiApplication::setWindowIcon(icon);
+    if (OnFirstPicture) OnFirstPicture();
 }
 
 } // namespace quill

@@ -4,13 +4,16 @@
 
 #include "core/surfaces.h"
 #include "platform/windows.h"
+#include "qt/core/accessible_desk.h"
 #include "qt/core/surface_widget.h"
 #include "qt/dock/main_widget.h"
 #include "qt/dock/splash_widget.h"
+#include "qt/dock/tip_widget.h"
 #include "qt/notes/note_desk.h"
 
 #include <QObject>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -29,8 +32,11 @@ public:
     void Drain(); // now
     MainWidget& Main();
     QWidget& Splash();
+    QWidget& Tip();
     // Null for a window that this backend does not have.
     QWidget* Window(WindowId window);
+
+    std::function<void()> OnFirstPicture; // what had to wait for it; empty: nothing
 
 protected:
     bool event(QEvent* event) override;
@@ -55,8 +61,10 @@ private:
     Looks& looks_;
     std::string iconFolder_;
     NoteDesk notes_;
+    AccessibleDesk accessible_;
     std::unique_ptr<MainWidget> main_;
     std::unique_ptr<SplashWidget> splash_;
+    std::unique_ptr<TipWidget> tip_;
     std::map<SurfaceId, SurfaceWidget*> surfaces_; // owned by their parents
     bool woken_ = false;
     bool restack_ = false;

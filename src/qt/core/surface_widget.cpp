@@ -73,6 +73,12 @@ Qt::CursorShape ShapeOfElement(ElementKind kind) {
     }
 }
 
+// What frmTip tells about needs no second tip beside it.
+bool HasTipOfItsOwn(const frmMain& Main, ElementKind kind) {
+    return Main.Settings.ShowTips &&
+           (kind == ElementKind::ContainerLabel || kind == ElementKind::ContainerIcon);
+}
+
 std::optional<ElementInfo> InfoAt(const frmMain& Main, SurfaceId surface, Point at) {
     const ElementId hit = ElementAt(Main, surface, at);
     std::optional<ElementInfo> found;
@@ -98,10 +104,12 @@ MouseEvent MouseOf(const QMouseEvent& event, QPointF origin) {
 }
 
 SurfaceWidget::SurfaceWidget(SurfaceId id, const SurfaceContext& context, QWidget* parent)
-    : QWidget(parent), id_(id), context_(context) {
+    : QWidget(parent), id_(id), context_(context), drops_(id, context.Attached, *this) {
     setMouseTracking(true);
     const bool workspace = id.Kind == SurfaceKind::Workspace;
     setAttribute(Qt::WA_OpaquePaintEvent, workspace); // the others have round corners
+    setAttribute(Qt::WA_TransparentForMouseEvents, id.Kind == SurfaceKind::Overlay);
+    setAcceptDrops(id.Kind != SurfaceKind::Overlay);
     if (workspace) setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -166,7 +174,8 @@ void SurfaceWidget::leaveEvent(QEvent*) {
 
 void SurfaceWidget::ShowTip(QPoint at, QPoint screen) {
     const auto element = InfoAt(*context_.Attached.Main, id_, TwipPoint(at));
-    if (!element || element->Tip.empty()) return QToolTip::hideText();
+    if (!element || element->Tip.empty() || HasTipOfItsOwn(*context_.Attached.Main, element->Id.Kind))
+        return QToolTip::hideText();
     QToolTip::showText(screen, PlainTip(Text(element->Tip)), this, PixelRect(element->Place));
 }
 

@@ -5,6 +5,7 @@
 #include "core/handlers.h"
 #include "core/surfaces.h"
 #include "qt/core/attachment.h"
+#include "qt/shortcuts/surface_drops.h"
 
 #include <QPoint>
 #include <QWidget>
@@ -28,6 +29,7 @@ public:
     SurfaceWidget(SurfaceId id, const SurfaceContext& context, QWidget* parent);
 
     SurfaceId Id() const { return id_; }
+    const SurfaceContext& Context() const { return context_; }
 
 protected:
     bool event(QEvent* event) override;
@@ -38,6 +40,10 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override { drops_.Enter(*event); }
+    void dragMoveEvent(QDragMoveEvent* event) override { drops_.Move(*event); }
+    void dragLeaveEvent(QDragLeaveEvent*) override { drops_.Leave(); }
+    void dropEvent(QDropEvent* event) override { drops_.Drop(*event); }
 
 private:
     bool Alive() const;
@@ -47,6 +53,7 @@ private:
 
     SurfaceId id_;
     SurfaceContext context_;
+    SurfaceDrops drops_;
     int wheel_ = 0; // eighths of a degree that make no whole step yet
 };
 

@@ -107,6 +107,13 @@ void QtWindows::SetCursorPos(Point place) {
     QCursor::setPos(PixelPoint(place));
 }
 
+void QtWindows::ShowCursor(bool shown) {
+    if (shown)
+        QGuiApplication::restoreOverrideCursor();
+    else
+        QGuiApplication::setOverrideCursor(Qt::BlankCursor);
+}
+
 QWidget* QtWindows::Widget(WindowId window) const {
     return display_.Get().Stage.Window(window);
 }

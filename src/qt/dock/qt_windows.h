@@ -27,6 +27,7 @@ public:
     std::vector<Monitor> Monitors() const override;
     Point GetCursorPos() const override;
     void SetCursorPos(Point place) override;
+    void ShowCursor(bool shown) override;
 
 private:
     QWidget* Widget(WindowId window) const;

@@ -6,8 +6,10 @@
 #include "qt/core/convert.h"
 #include "qt/core/keys.h"
 
+#include <QDragEnterEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -28,6 +30,7 @@ NoteBox::NoteBox(int index, const Attachment& attached, const Fonts& fonts, std:
                  QWidget* parent)
     : QPlainTextEdit(parent), index_(index), attached_(attached), fonts_(fonts), left_(std::move(left)) {
     setObjectName(QStringLiteral("ContainerNote"));
+    if (Alive()) setAccessibleName(Text(attached.Main->ConView(index).ContainerLabel.Caption));
     setFrameShape(QFrame::NoFrame);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     document()->setDocumentMargin(margin);
@@ -42,6 +45,12 @@ void NoteBox::TakeOver(const NoteView& note) {
     taking_ = true;
     setPlainText(Text(note.Text));
     taking_ = false;
+}
+
+// Files and addresses are for the container behind the box, which makes shortcuts of them.
+void NoteBox::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) return event->ignore();
+    QPlainTextEdit::dragEnterEvent(event);
 }
 
 bool NoteBox::Alive() const {

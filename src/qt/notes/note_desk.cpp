@@ -50,9 +50,9 @@ void NoteDesk::Follow(const std::function<QWidget*(int)>& surfaceOf) {
         auto& fulfilled = wishes_[row.Index];
         const auto wish = attached_.Main->ConView(row.Index).ContainerNote.FocusWish;
         if (wish == fulfilled) continue;
-        fulfilled = wish;
         QWidget* surface = surfaceOf(row.Index);
-        if (surface == nullptr) continue;
+        if (surface == nullptr) continue; // an effect hides it until it stands
+        fulfilled = wish;
         Make(*surface, row.Index);
         if (!box_) continue;
         box_->moveCursor(QTextCursor::End);

@@ -1,0 +1,193 @@
+// The workspace's menu. What its lines about shortcuts and spacing mean, the container with the keys or the
+// workspace itself, their routines decide.
+#include "containers/arrange.h"
+#include "containers/commands.h"
+#include "containers/flip.h"
+#include "containers/lifecycle.h"
+#include "containers/measures.h"
+#include "containers/selection.h"
+#include "containers/undo.h"
+#include "core/menu_tables.h"
+#include "core/objects.h"
+#include "core/start.h"
+#include "core/tr.h"
+#include "dock/docking.h"
+#include "notes/notes.h"
+#include "persistence/backup.h"
+#include "persistence/save.h"
+
+#include <algorithm>
+
+namespace quill {
+namespace {
+
+constexpr float stepAside = 300; // twips, about a title row
+constexpr int mostSteps = 20;
+
+bool StandsAt(const frmMain& Main, Point corner) {
+    for (const auto& row : Live(Main.Containers)) {
+        const auto& place = Main.ConView(row.Index).Container.Place;
+        if (place.Left == corner.X && place.Top == corner.Y) return true;
+    }
+    return false;
+}
+
+// Where the last press was, but whole, and not exactly over a container that nobody would then see.
+void ChooseNewPlace(frmMain& Main) {
+    const auto& back = Main.View.picBack.Place;
+    const float edge = measures::NewContainerEdge + measures::EdgeGap;
+    const float top = Main.View.picMoveMe.Place.Bottom();
+    const float right = std::max(0.0F, back.Width - edge), bottom = std::max(top, back.Height - edge);
+    Point& place = Main.Group.NewContainerPos;
+    place = {std::clamp(place.X, 0.0F, right), std::clamp(place.Y, top, bottom)};
+    const Point step{place.X + stepAside > right ? -stepAside : stepAside,
+                     place.Y + stepAside > bottom ? -stepAside : stepAside};
+    for (int tries = 0; tries < mostSteps && StandsAt(Main, place); ++tries)
+        place = {std::clamp(place.X + step.X, 0.0F, right), std::clamp(place.Y + step.Y, top, bottom)};
+}
+
+void mnuNew_Click(frmMain& Main) {
+    ChooseNewPlace(Main);
+    bool ok = false;
+    NewGroup(Main, false, ok);
+    if (!ok) return;
+    Main.Group.CurrentContainer = Main.NextContainerIndex - 1;
+    Main.Con(Main.Group.CurrentContainer).CreationDate = DateText(Main);
+    Main.Con(Main.Group.CurrentContainer).ModifyDate = DateText(Main);
+    SaveContainers(Main, true);
+}
+
+void mnuNewNote_Click(frmMain& Main) {
+    ChooseNewPlace(Main);
+    if (NewNote(Main, "", Tr(Main, "Note"), false)) SaveContainers(Main, true);
+}
+
+void mnuHelpItem_Click(frmMain& Main) {
+    const DialogPause pause(Main);
+    Main.P.Questions.MsgBox(CommandLineHelp(), BoxInformation, ProgramName);
+}
+
+void FlipForward(frmMain& Main) {
+    SpacebarFlip(Main, true);
+}
+void FlipBackward(frmMain& Main) {
+    SpacebarFlip(Main, false);
+}
+
+bool CanUndo(const frmMain& Main) {
+    return !Main.Group.UndoStack.empty();
+}
+bool CanRedo(const frmMain& Main) {
+    return !Main.Group.RedoStack.empty();
+}
+bool HasHistory(const frmMain& Main) {
+    return CanUndo(Main) || CanRedo(Main);
+}
+bool HasShortcuts(const frmMain& Main) {
+    return Live(Main.Shortcuts).begin() != Live(Main.Shortcuts).end();
+}
+bool MaySortShortcuts(const frmMain& Main) {
+    return Main.Links.SelectedShortcuts.size() > 1 && MayArrangeShortcuts(Main);
+}
+
+bool IsLocked(const frmMain& Main) {
+    return Main.Dock.Locked;
+}
+bool IsOnTop(const frmMain& Main) {
+    return Main.Settings.OnTop;
+}
+bool IsMovementLocked(const frmMain& Main) {
+    return Main.Settings.PreventWindowMovement;
+}
+bool IsMaximized(const frmMain& Main) {
+    return Main.Dock.Maximized;
+}
+bool IsNotMaximized(const frmMain& Main) {
+    return !Main.Dock.Maximized;
+}
+
+constexpr MenuEntry shortcutLines[] = {
+    {"mnuSelectShortcuts(0)", "&Select All", "Ctrl+A", &Item<&mnuSelectShortcuts_Click, 0>, &HasShortcuts},
+    {"mnuSelectShortcuts(1)", "&Deselect All", "Esc", &Item<&mnuSelectShortcuts_Click, 1>,
+     &HasSelectedShortcuts},
+    {"mnuSelectShortcuts(2)", "&Invert Selection", "Alt+I", &Item<&mnuSelectShortcuts_Click, 2>,
+     &HasShortcuts},
+};
+
+constexpr MenuEntry containerLines[] = {
+    {"mnuFlipForward", "&Next Container", "Space", &FlipForward, &HasContainers},
+    {"mnuFlipBackward", "&Previous Container", "Shift+Space", &FlipBackward, &HasContainers},
+    MenuSeparator,
+    {"mnuConInvertSelection", "&Invert Selection", "Alt+Shift+I", &mnuConInvertSelection_Click,
+     &HasContainers},
+    {"mnuConUnselectAll", "&Deselect All", "Esc", &mnuConUnselectAll_Click, &HasSelectedContainers},
+};
+
+constexpr MenuEntry arrangeLines[] = {
+    {"mnuSortShortcuts(0)", "Sort &Ascending", "Alt+A", &Item<&mnuSortShortcuts_Click, 0>, &MaySortShortcuts},
+    {"mnuSortShortcuts(1)", "Sort &Descending", "Alt+D", &Item<&mnuSortShortcuts_Click, 1>,
+     &MaySortShortcuts},
+    MenuSeparator,
+    {"mnuLineSpacing", "&Line Spacing...", "Alt+P", &mnuLineSpacing_Click, &MayArrangeShortcuts},
+    {"mnuAlign", "&Snap to Grid", "Alt+G", &mnuAlign_Click, nullptr, &SnapsToGrid},
+};
+
+constexpr MenuEntry textSizeLines[] = {
+    {"MakeIconsLarger", "&Larger", "Ctrl++", &MakeIconsLarger_Click, &MayChangeSelected},
+    {"MakeIconsSmaller", "&Smaller", "Ctrl+-", &MakeIconsSmaller_Click, &MayChangeSelected},
+    {"MakeIconsSizeDifferent", "&Other...", "Alt+Z", &MakeIconsSizeDifferent_Click, &MayChangeSelected},
+};
+
+MenuTable ShortcutLines() {
+    return shortcutLines;
+}
+MenuTable ContainerLines() {
+    return containerLines;
+}
+MenuTable ArrangeLines() {
+    return arrangeLines;
+}
+MenuTable TextSizeLines() {
+    return textSizeLines;
+}
+
+constexpr MenuEntry workspaceMenu[] = {
+    {"mnuNew", "New &Container", "Ctrl+T", &mnuNew_Click},
+    {"mnuNewNote", "&Note", "Ctrl+N", &mnuNewNote_Click},
+    MenuSeparator,
+    {"mnuUndoRedo(0)", "&Undo", "Ctrl+Z", &Item<&mnuUndoRedo_Click, 0>, &CanUndo},
+    {"mnuUndoRedo(1)", "&Redo", "Ctrl+Y", &Item<&mnuUndoRedo_Click, 1>, &CanRedo},
+    {"mnuClearUndoRedoBuffer", "Clear Undo Histor&y", "Ctrl+Shift+Delete", &mnuClearUndoRedoBuffer_Click,
+     &HasHistory},
+    MenuSeparator,
+    {.Caption = "S&hortcuts", .Children = &ShortcutLines},
+    {.Caption = "Cont&ainers", .Children = &ContainerLines},
+    {.Caption = "Arran&ge", .Children = &ArrangeLines},
+    {.Caption = "Text Si&ze", .Children = &TextSizeLines},
+    {"mnuRefresh", "Re&fresh", "Shift+F5", &RefreshLinksAndShrinkIcons},
+    MenuSeparator,
+    {"mnuSave", "&Save", "F8", &mnuSave_Click},
+    {"mnuBackup", "&Backup", "Ctrl+F8", &mnuBackup_Click},
+    MenuSeparator,
+    {"mnuLock", "Loc&k", "Ctrl+L", &mnuLock_Click, nullptr, &IsLocked},
+    {"mnuOnTop", "Keep &On Top", "Ctrl+Shift+T", &mnuOnTop_Click, nullptr, &IsOnTop},
+    {"mnuPreventWindowMovement", "Lock &Position", "Ctrl+Shift+L", &mnuPreventWindowMovement_Click, nullptr,
+     &IsMovementLocked},
+    {"mnuMaximize", "Ma&ximize", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsNotMaximized},
+    {"mnuRestore", "Restor&e", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsMaximized},
+    MenuSeparator,
+    {"mnuIgnoreChanges", "&Ignore Changes", "Ctrl+Shift+F8", &RestartIgnoringChanges},
+    {"mnuClearWorkspace", "Clear &Workspace", "Ctrl+Shift+F4", &mnuClearWorkspace_Click},
+    {"mnuLoadDefaults", "Load &Defaults", "Ctrl+Shift+F5", &mnuLoadDefaults_Click},
+    {"mnuHelpItem", "Command-&line Options", "Shift+F1", &mnuHelpItem_Click},
+    MenuSeparator,
+    {"mnuExitMainWin", "Exi&t", "Alt+F4", &mnuExitMainWin_Click},
+};
+
+} // namespace
+
+MenuTable WorkspaceMenu() {
+    return workspaceMenu;
+}
+
+} // namespace quill

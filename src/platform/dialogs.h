@@ -1,0 +1,31 @@
+// Dialogs: forms over plain values. The logic side of a dialog is a class under its own name that holds the
+// value and the rules; the form only shows it, and calls its OK and Cancel. Every call runs a loop of its
+// own, like every question; the caller tests again that the program is not exiting and its rows live. When
+// the program is told to end, all of them return as cancelled.
+#pragma once
+
+#include "platform/geometry.h"
+
+#include <optional>
+#include <string>
+
+namespace quill {
+
+class frmConProperties;
+
+struct FileQuestion {
+    std::string Title;
+    std::string FilterCaption = "All Files (*.*)";
+    std::string Folder; // where it opens; empty: where the toolkit sees fit
+};
+
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+
+    virtual bool Show(frmConProperties& dialog) = 0;                               // true: accepted
+    virtual std::optional<std::string> OpenFile(const FileQuestion& question) = 0; // nothing: cancelled
+    virtual std::optional<Color> ChooseColor(Color now, const std::string& title) = 0;
+};
+
+} // namespace quill
