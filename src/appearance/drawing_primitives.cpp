@@ -9,8 +9,8 @@ namespace quill {
 
 namespace {
 
-constexpr int TextInset = 3;    // pixels between the label's edge and its text
-constexpr int SizeMargin = 8;   // pixels, of both sides together, around a text that is measured
+constexpr int TextInset = 3;       // pixels between the label's edge and its text
+constexpr int SizeMargin = 8;      // pixels, of both sides together, around a text that is measured
 constexpr float CornerAxis = 2.5F; // of the ellipse in a corner, to the radius
 
 float Twips(int pixels) {
@@ -29,8 +29,7 @@ Pen BorderPen(const EruLabel& label) {
     constexpr int noLine = 5;
     if (label.BorderWidth == 0 || label.BorderStyle == noLine) return {};
     const bool thin = label.BorderWidth == 1 && label.BorderStyle < std::size(styles);
-    return {2 * label.BorderWidth - 1, label.BorderColor,
-            thin ? styles[label.BorderStyle] : PenStyle::Solid};
+    return {2 * label.BorderWidth - 1, label.BorderColor, thin ? styles[label.BorderStyle] : PenStyle::Solid};
 }
 
 // The line runs along the edge, so that of its width one pixel less than half lies beyond and is cut away.
@@ -41,9 +40,9 @@ void PaintBorder(Canvas& canvas, const EruLabel& label) {
     // The canvas wants half an axis.
     const float radius = CornerAxis / 2 * Twips(label.BorderRadius);
     if (beyond > 0) canvas.PushClip(client);
-    canvas.RoundRect({client.Left - beyond, client.Top - beyond, client.Width + 2 * beyond,
-                      client.Height + 2 * beyond},
-                     radius > 0 ? radius + beyond : 0, label.BackColor, pen, label.Opacity);
+    canvas.RoundRect(
+        {client.Left - beyond, client.Top - beyond, client.Width + 2 * beyond, client.Height + 2 * beyond},
+        radius > 0 ? radius + beyond : 0, label.BackColor, pen, label.Opacity);
     if (beyond > 0) canvas.PopClip();
 }
 

@@ -1,5 +1,5 @@
-// Drawing primitives: the owner-drawn label and the ramp. Labels and grounds of a surface are painted through them;
-// round_window.h and print_rotated.h hold the other two.
+// Drawing primitives: the owner-drawn label and the ramp. Labels and grounds of a surface are painted through
+// them; round_window.h and print_rotated.h hold the other two.
 #pragma once
 
 #include "core/views.h"
@@ -18,8 +18,8 @@ enum TextFormat {
 };
 int TextFormatOf(const EruLabel& label);
 
-// What of a label is painted: one pixel more than its place each way, so that the far lines of a border lie on
-// its edges.
+// What of a label is painted: one pixel more than its place each way, so that the far lines of a border lie
+// on its edges.
 Rect ClientRect(const EruLabel& label);
 // Where its text stands: 3 pixels within, and the border's width more at the left and top only.
 Rect TextRect(const EruLabel& label);
@@ -28,8 +28,9 @@ Rect TextRect(const EruLabel& label);
 // every other stays as it is. To be called when one of these, the border or the font has changed.
 void SizeLabel(const Texts& texts, EruLabel& label, std::string_view fontName);
 
-// Nothing of a label without a caption or with an opacity of 0. A ground that is see-through bears solid text.
-// Of the extra style the label's own properties overrule ink, alignment, wrapping and the font's name and size.
+// Nothing of a label without a caption or with an opacity of 0. A ground that is see-through bears solid
+// text. Of the extra style the label's own properties overrule ink, alignment, wrapping and the font's name
+// and size.
 void PaintEruLabel(Canvas& canvas, const EruLabel& label, std::string_view fontName, const TextStyle& extra);
 
 enum class RampKind { ContainerFrame, ContainerFrameReversed, Workspace, WorkspaceDark };

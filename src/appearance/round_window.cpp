@@ -15,7 +15,8 @@ float Corner(float radius, const Rect& place) {
 } // namespace
 
 void RoundWindow(Canvas& canvas, const Rect& Element, float Radius, int FrameX, int FrameY) {
-    const float x = static_cast<float>(FrameX) * TwipsPerPixel, y = static_cast<float>(FrameY) * TwipsPerPixel;
+    const float x = static_cast<float>(FrameX) * TwipsPerPixel,
+                y = static_cast<float>(FrameY) * TwipsPerPixel;
     const Rect region{Element.Left, Element.Top, std::max(0.0F, Element.Width - x),
                       std::max(0.0F, Element.Height - y)};
     const Rect inside{region.Left + x, region.Top + y, std::max(0.0F, region.Width - 2 * x),

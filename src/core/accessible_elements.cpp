@@ -53,7 +53,8 @@ bool HasMenu(ElementId element) {
            element.Kind == ElementKind::ContainerIcon;
 }
 
-// What a person can do with a container as a whole are the deeds of the marks in its title row, or of its tile.
+// What a person can do with a container as a whole are the deeds of the marks in its title row, or of its
+// tile.
 bool SpeaksForContainer(ElementKind kind) {
     return kind == ElementKind::ContainerIcon || kind == ElementKind::lblFoldUnfold ||
            kind == ElementKind::shapeShrink || kind == ElementKind::lblPinNote;

@@ -1,7 +1,7 @@
-// Accessible elements: what of a surface is told to those who do not see it, and what they can do there by name.
-// It is the walk over elements with the few that say nothing of their own left out: the surface itself stands for
-// its ground, its frame and its image, and a shortcut's icon is part of its label. What has no place on the screen
-// at the moment can still be described, as long as its object lives.
+// Accessible elements: what of a surface is told to those who do not see it, and what they can do there by
+// name. It is the walk over elements with the few that say nothing of their own left out: the surface itself
+// stands for its ground, its frame and its image, and a shortcut's icon is part of its label. What has no
+// place on the screen at the moment can still be described, as long as its object lives.
 #pragma once
 
 #include "core/frmMain.h"
@@ -33,7 +33,8 @@ ElementInfo DescribeTold(const frmMain& Main, SurfaceId surface, ElementId eleme
 
 // What can be done with an element, or (None) a surface, as it stands now: "Start", "Unfold", "Show Menu".
 std::vector<std::string> ActionsOf(const frmMain& Main, SurfaceId surface, ElementId element);
-// False: nothing of that name can be done there now. May ask a question or show a menu, so it waits for a person.
+// False: nothing of that name can be done there now. May ask a question or show a menu, so it waits for a
+// person.
 bool DoAction(frmMain& Main, SurfaceId surface, ElementId element, std::string_view action);
 // Brings the keyboard to an element that it can be on.
 bool FocusElement(frmMain& Main, SurfaceId surface, ElementId element);

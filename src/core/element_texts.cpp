@@ -91,8 +91,7 @@ void DescribePin(const frmMain& Main, const ContainerView& view, ElementInfo& in
 
 void DescribeContainerPart(const frmMain& Main, ElementInfo& info) {
     const auto& view = Main.ConView(info.Id.Index);
-    if (info.Name.empty())
-        info.Name = FirstName(view.ContainerLabel.Caption, {}, Tr(Main, "Container"));
+    if (info.Name.empty()) info.Name = FirstName(view.ContainerLabel.Caption, {}, Tr(Main, "Container"));
     info.Selected = view.LabelSelected;
     info.Expanded = view.FoldMark == "-" && !IsShrunk(Main, info.Id.Index);
     switch (info.Id.Kind) {

@@ -31,8 +31,8 @@ inline Parent InContainer(int index) {
     return {ParentKind::ContainerFrame, index};
 }
 
-// The owner-drawn label. Alignment 0 is left, 2 centred, anything else right. One that is not enabled looks the
-// same and does nothing.
+// The owner-drawn label. Alignment 0 is left, 2 centred, anything else right. One that is not enabled looks
+// the same and does nothing.
 struct EruLabel {
     Rect Place;
     std::string Caption;
@@ -110,10 +110,10 @@ struct FeedView : Element {
 struct ShortcutView {
     Parent In;
     EruLabel lblShortcut{.AutoSize = true}; // Caption may be a shortened form of FullCaption
-    Rect picShortcut;           // the icon
-    bool Visible = true;        // false while a tag view hides it
-    bool IconDrawn = false;     // the icon has been asked for
-    bool LabelMeasured = false; // lblShortcut's width and height are those of its text
+    Rect picShortcut;                       // the icon
+    bool Visible = true;                    // false while a tag view hides it
+    bool IconDrawn = false;                 // the icon has been asked for
+    bool LabelMeasured = false;             // lblShortcut's width and height are those of its text
 };
 
 struct PictureView {

@@ -1,6 +1,6 @@
-// System colours: codes that stand for a colour of the desktop's own palette. They are kept as they are and looked
-// up when something is drawn, so that a change of the desktop's theme shows at the next painting. A canvas takes
-// them wherever it takes a colour; arithmetic on colours does not.
+// System colours: codes that stand for a colour of the desktop's own palette. They are kept as they are and
+// looked up when something is drawn, so that a change of the desktop's theme shows at the next painting. A
+// canvas takes them wherever it takes a colour; arithmetic on colours does not.
 #pragma once
 
 #include "platform/geometry.h"

@@ -91,10 +91,10 @@ TEST(EruLabel, OnlyTheThinnestBorderCanBeBroken) {
         const char* Words;
     };
     for (const Row& row :
-         {Row{0, 1, "pen 1 #00FF00\n"}, Row{1, 1, "pen 1 #00FF00 dashed\n"}, Row{2, 1, "pen 1 #00FF00 dotted\n"},
-          Row{3, 1, "pen 1 #00FF00 dash-dotted\n"}, Row{4, 1, "pen 1 #00FF00 dash-dot-dotted\n"},
-          Row{1, 2, "pen 3 #00FF00\n"}, Row{9, 1, "pen 1 #00FF00\n"}, Row{5, 1, "r0 #FF0000\n"},
-          Row{5, 3, "r0 #FF0000\n"}}) {
+         {Row{0, 1, "pen 1 #00FF00\n"}, Row{1, 1, "pen 1 #00FF00 dashed\n"},
+          Row{2, 1, "pen 1 #00FF00 dotted\n"}, Row{3, 1, "pen 1 #00FF00 dash-dotted\n"},
+          Row{4, 1, "pen 1 #00FF00 dash-dot-dotted\n"}, Row{1, 2, "pen 3 #00FF00\n"},
+          Row{9, 1, "pen 1 #00FF00\n"}, Row{5, 1, "r0 #FF0000\n"}, Row{5, 3, "r0 #FF0000\n"}}) {
         EruLabel label = Label();
         label.BackStyle = 1;
         label.BorderStyle = row.Style;
@@ -136,7 +136,8 @@ TEST(EruLabel, ColorsThatNobodySetAreThoseOfTheDesktopsButtons) {
     label.Place = {0, 0, 150, 150};
     label.Caption = "Mail";
     label.BackStyle = 1;
-    EXPECT_EQ(Painted(label), "fill 0,0 165x165 system15\ntext \"Mail\" 45,45 75x75 system18 left 10pt clip\n");
+    EXPECT_EQ(Painted(label),
+              "fill 0,0 165x165 system15\ntext \"Mail\" 45,45 75x75 system18 left 10pt clip\n");
     EXPECT_EQ(static_cast<std::uint32_t>(label.BackColor), 0x8000000FU);
     EXPECT_EQ(static_cast<std::uint32_t>(label.ForeColor), 0x80000012U);
 }
@@ -154,8 +155,9 @@ struct FormatRow {
 
 TEST(EruLabel, FormatFlagsFollowAlignmentWrappingAndSizing) {
     const FormatRow rows[] = {
-        {0, false, false, 0x800}, {1, false, false, 0x802}, {2, false, false, 0x801}, {7, false, false, 0x802},
-        {0, true, false, 0x810},  {0, false, true, 0x900},  {2, true, true, 0x811}, // wrapping comes first
+        {0, false, false, 0x800}, {1, false, false, 0x802}, {2, false, false, 0x801},
+        {7, false, false, 0x802}, {0, true, false, 0x810},  {0, false, true, 0x900},
+        {2, true, true, 0x811}, // wrapping comes first
         {1, false, true, 0x902},
     };
     for (const auto& row : rows) {

@@ -101,6 +101,21 @@ TEST_F(Accessible, AShortcutStartsByItsActionAndHasAMenu) {
     EXPECT_FALSE(DoAction(Main, OnBack, Label(link), "Fold"));
 }
 
+TEST_F(Accessible, ANoteOpensByItsAction) {
+    const int index = New({600, 600, 3000, 3000});
+    EXPECT_TRUE(DoAction(Main, OnContainer(index), {}, "Show Note"));
+    const auto wish = Main.ConView(index).ContainerNote.FocusWish;
+    EXPECT_TRUE(DoAction(Main, OnContainer(index), {ElementKind::ContainerNote, index}, "Edit"));
+    EXPECT_EQ(Main.ConView(index).ContainerNote.FocusWish, wish + 1);
+}
+
+TEST_F(Accessible, AReminderSaysWhatItsFootSays) {
+    const int index = New({600, 600, 3000, 3000});
+    EXPECT_EQ(DescribeTold(Main, OnContainer(index), {}).Tip, "");
+    Main.Con(index).SetReminder(true, 2030, 1, 2, 3, 4, {});
+    EXPECT_EQ(DescribeTold(Main, OnContainer(index), {}).Tip, "Reminder");
+}
+
 TEST_F(Accessible, TheMenuOpensAtWhatItIsOf) {
     const int index = New({600, 600, 3000, 3000});
     const int link = NewLink(InContainer(index), {500, 500});

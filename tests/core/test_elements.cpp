@@ -1,6 +1,7 @@
 #include "containers/workspace_fixture.h"
 
 #include "containers/fold.h"
+#include "core/keyboard_focus.h"
 #include "notes/notes.h"
 
 namespace quill {
@@ -138,6 +139,8 @@ TEST_F(ElementsOf, EveryElementOfEveryStateHasANameForThoseWhoDoNotSeeIt) {
     SetObjectRelativeSize(Main, open);
     FoldUnfoldContainer(Main, folded, false);
     NewPicture(OnWorkspace(), {5000, 5000, 900, 900});
+    Main.Group.frmSelection.Loaded = Main.Looks.frmExplode.Loaded = true;
+    Main.Group.frmSelection.Place = Main.Looks.frmExplode.Now = {100, 100, 900, 900};
     for (const auto& surface : Surfaces(Main)) {
         Elements(Main, surface, [&](const ElementInfo& info) {
             EXPECT_FALSE(info.Name.empty()) << NameOf(info.Id.Kind);
@@ -145,6 +148,32 @@ TEST_F(ElementsOf, EveryElementOfEveryStateHasANameForThoseWhoDoNotSeeIt) {
         });
     }
     EXPECT_TRUE(IsShrunk(Main, tile));
+}
+
+TEST_F(ElementsOf, WhateverNamesAnActionDoesIt) {
+    const int open = New({600, 600, 3000, 3000}), folded = New({600, 5000, 3000, 3000}),
+              noted = New({5000, 600, 3000, 3000}), tile = NewTile(9000, 600);
+    NewLink(InContainer(open), {500, 500});
+    NewLink(OnWorkspace(), {5000, 5000});
+    FoldUnfoldContainer(Main, folded, false);
+    lblPinNote_Click(Main, noted);
+    NewPicture(OnWorkspace(), {5000, 6000, 900, 900});
+    std::vector<std::pair<SurfaceId, ElementId>> doing;
+    for (const auto& surface : Surfaces(Main)) {
+        Elements(Main, surface, [&](const ElementInfo& info) {
+            if (!info.Action.empty()) doing.emplace_back(surface, info.Id);
+            return true;
+        });
+    }
+    EXPECT_GT(doing.size(), 15U);
+    for (const auto& [surface, element] : doing) {
+        computer.Questions.DismissMenu();
+        bool still = false; // what was done before may have taken it away
+        Elements(Main, surface, [&](const ElementInfo& info) { return !(still |= info.Id == element); });
+        if (!still) continue;
+        EXPECT_TRUE(ActivateElement(Main, surface, element)) << NameOf(element.Kind);
+    }
+    EXPECT_FALSE(IsShrunk(Main, tile));
 }
 
 TEST_F(ElementsOf, EachKindHasItsOwnName) {
@@ -168,7 +197,8 @@ TEST_F(ElementsOf, SurfacesComeInStackingOrderWithTheWorkspaceBelow) {
     EXPECT_EQ(Surfaces(Main), (std::vector<SurfaceId>{{SurfaceKind::Workspace, -1},
                                                       {SurfaceKind::Container, two},
                                                       {SurfaceKind::Picture, picture},
-                                                      {SurfaceKind::Container, one}}));
+                                                      {SurfaceKind::Container, one},
+                                                      {SurfaceKind::Overlay, -1}}));
 }
 
 TEST_F(ElementsOf, APictureInAContainerFollowsItsFrameAndScrolling) {

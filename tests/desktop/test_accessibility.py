@@ -325,6 +325,25 @@ class Accessibility(DesktopTest):
         self.gone("panel", "Work")
         self.find("panel", "Play")
 
+    def test_the_element_is_told_again_when_a_box_has_closed(self):
+        self.open([files.container("Work")])
+        work = self.find("panel", "Work")
+        self.find("push button", "Fold", work).take_focus()
+        self.has_state(self.find("push button", "Fold", work), "focused")
+        self.desktop.key("ctrl+Delete")
+        self.find("push button", "No")
+        self.listen(FOCUSED)
+        self.desktop.key("Escape")
+        self.gone("push button", "No")
+        self.hears("the focus", lambda kind, on, name, role: kind == FOCUSED and on and (role, name) == ("push button", "Fold"))
+
+    def test_one_thing_has_the_keyboard(self):
+        self.open([files.container("Work")])
+        self.desktop.request_focus(self.window)
+        self.desktop.key("Tab")
+        until(lambda: len([element for element in self.root.walk() if "focused" in element.states()]) == 1,
+              "one element is focused")
+
     def test_a_passing_word_in_the_title_is_told(self):
         self.open([files.container("Work")])
         list(self.root.walk())

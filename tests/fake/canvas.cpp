@@ -57,8 +57,8 @@ void FakeCanvas::Text(const Rect& place, std::string_view text, const TextStyle&
 }
 
 void FakeCanvas::RotatedText(Point at, std::string_view text, const TextStyle& style, int tenths) {
-    Lines.push_back("rotated \"" + std::string(text) + "\" " + Words(at) + " turned " + std::to_string(tenths) +
-                    StyleWords(style));
+    Lines.push_back("rotated \"" + std::string(text) + "\" " + Words(at) + " turned " +
+                    std::to_string(tenths) + StyleWords(style));
 }
 
 void FakeCanvas::Symbol(std::string_view name, const Rect& place, Color ink, float opacity) {

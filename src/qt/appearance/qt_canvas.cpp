@@ -155,7 +155,8 @@ void QtCanvas::RotatedText(Point at, std::string_view text, const TextStyle& sty
     const TextBlock block(looks_.Fonts.Get(style.Font), OneLine(quill::Text(text)), {});
     constexpr double tenthsInADegree = 10;
     const QPointF corner = Snap(at);
-    const QTransform turn = QTransform::fromTranslate(corner.x(), corner.y()).rotate(-tenths / tenthsInADegree);
+    const QTransform turn =
+        QTransform::fromTranslate(corner.x(), corner.y()).rotate(-tenths / tenthsInADegree);
     const QRectF upright(-1, -1, block.Width() + 2, block.Height() + 2);
     if (!exposed_.intersects(turn.mapRect(upright).toAlignedRect())) return;
     painter_.save();

@@ -1,6 +1,6 @@
-// AccessibleDesk: what the workspace tells to assistive technology. Surfaces get interfaces of their own kind. While
-// nobody listens that is all; once somebody does, every turn of marks is followed by the news in it: what came and
-// went, changed names and states, and where the keyboard is.
+// AccessibleDesk: what the workspace tells to assistive technology. Surfaces get interfaces of their own
+// kind. While nobody listens that is all; once somebody does, every turn of marks is followed by the news in
+// it: what came and went, changed names and states, and where the keyboard is.
 #pragma once
 
 #include "core/surfaces.h"

@@ -1,6 +1,6 @@
-// AccessibleElement: a painted element as assistive technology knows it. It holds no state: every answer is read
-// from the tables, so that it can't be out of date; when its object dies or moves elsewhere it is invalid. A note
-// tells its text as well, and a scroll bar its place.
+// AccessibleElement: a painted element as assistive technology knows it. It holds no state: every answer is
+// read from the tables, so that it can't be out of date; when its object dies or moves elsewhere it is
+// invalid. A note tells its text as well, and a scroll bar its place.
 #pragma once
 
 #include "core/surfaces.h"
@@ -53,8 +53,8 @@ private:
     std::unique_ptr<QAccessibleValueInterface> value_;
 };
 
-// Does it in a turn of its own, since it may wait for a person, and not behind an open question. Element None:
-// the surface's own.
+// Does it in a turn of its own, since it may wait for a person, and not behind an open question. Element
+// None: the surface's own.
 void DoLater(SurfaceWidget& surface, ElementId element, const QString& action);
 
 } // namespace quill

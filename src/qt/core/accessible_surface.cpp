@@ -1,6 +1,7 @@
 #include "qt/core/accessible_surface.h"
 
 #include "core/accessible_elements.h"
+#include "core/frmMain.h"
 #include "qt/core/accessible_element.h"
 #include "qt/core/accessible_place.h"
 #include "qt/core/convert.h"
@@ -14,6 +15,10 @@ namespace {
 
 bool Has(const std::vector<ElementId>& list, ElementId id) {
     return std::ranges::find(list, id) != list.end();
+}
+
+bool IsFocusShown(const frmMain& Main) {
+    return Main.View.FocusVisible && Main.View.Focus.Kind != ElementKind::None;
 }
 
 // Of what can change while somebody listens.
@@ -140,11 +145,25 @@ QAccessible::Role AccessibleSurface::role() const {
     return RoleOf(Info({}).Role);
 }
 
-// The workspace's own keyboard is the window's; of the rest only elements have it.
+// The toolkit's keyboard is in the workspace, also while an element on another surface is what it is on.
+QAccessibleInterface* AccessibleSurface::focusChild() const {
+    const frmMain* Main = this->Main();
+    if (Main == nullptr || !IsFocusShown(*Main)) return QAccessibleWidget::focusChild();
+    if (Main->View.FocusSurface == Surface()->Id())
+        return const_cast<AccessibleSurface*>(this)->Element(Main->View.Focus);
+    for (QWidget* box : Boxes()) {
+        const auto* surface = dynamic_cast<SurfaceWidget*>(box);
+        if (surface == nullptr || surface->Id() != Main->View.FocusSurface) continue;
+        return QAccessible::queryAccessibleInterface(box)->focusChild();
+    }
+    return QAccessibleWidget::focusChild();
+}
+
 QAccessible::State AccessibleSurface::state() const {
     auto state = QAccessibleWidget::state();
     const auto info = Info({});
     state.selected = info.Selected;
+    if (const frmMain* Main = this->Main(); Main != nullptr && IsFocusShown(*Main)) state.focused = false;
     const auto* surface = Surface();
     if (surface == nullptr || surface->Id().Kind != SurfaceKind::Container) return state;
     state.selectable = state.expandable = true;
@@ -198,7 +217,8 @@ void AccessibleSurface::TellGone(const std::vector<ElementId>& now) {
             ++made;
             continue;
         }
-        QAccessibleEvent event(QAccessible::accessibleInterface(made->second.Id), QAccessible::ObjectDestroyed);
+        QAccessibleEvent event(QAccessible::accessibleInterface(made->second.Id),
+                               QAccessible::ObjectDestroyed);
         QAccessible::updateAccessibility(&event);
         QAccessible::deleteAccessibleInterface(made->second.Id);
         made = made_.erase(made);

@@ -1,5 +1,6 @@
-// AccessibleSurface: a surface as assistive technology knows it. Its children are the elements painted on it, made
-// when they are first asked for, and behind them the surfaces and boxes that lie on it, in their stacking order.
+// AccessibleSurface: a surface as assistive technology knows it. Its children are the elements painted on it,
+// made when they are first asked for, and behind them the surfaces and boxes that lie on it, in their
+// stacking order.
 #pragma once
 
 #include "core/surfaces.h"
@@ -28,6 +29,7 @@ public:
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
     QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
     QString text(QAccessible::Text which) const override;
     QRect rect() const override;
     QAccessible::Role role() const override;
@@ -54,7 +56,7 @@ private:
 
     std::map<ElementId, Known> made_;                       // owned by the toolkit's table of interfaces
     mutable std::optional<std::vector<ElementId>> counted_; // the children as somebody knows them
-    std::optional<Known> own_; // nothing before somebody listened
+    std::optional<Known> own_;                              // nothing before somebody listened
 };
 
 } // namespace quill

@@ -1,5 +1,5 @@
-// AccessibleWindow: the workspace's window as assistive technology knows it. Its children are the workspace and,
-// behind it, the menu that is open: the toolkit leaves menus out, and nobody could look at their lines.
+// AccessibleWindow: the workspace's window as assistive technology knows it. Its children are the workspace
+// and, behind it, the menu that is open: the toolkit leaves menus out, and nobody could look at their lines.
 #pragma once
 
 #include "qt/core/accessible_place.h"
