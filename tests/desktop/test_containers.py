@@ -148,6 +148,7 @@ class Containers(DesktopTest):
         for tile in (ONE, TWO):
             self.desktop.move_to(*self.icon(tile))
             self.desktop.press()
+            self.desktop.settle()  # or the window manager, which sees the press first, takes it for a drag
             self.desktop.release()
         self.await_open(TWO)
         self.await_closed(ONE)
