@@ -200,6 +200,10 @@ class Desktop:
         self._start_window_manager(name)
         self.settle()
 
+    def begin_window_manager(self, name):
+        """Starts it and does not wait until it listens, as a session starts everything at once."""
+        return self._background(WINDOW_MANAGERS[name])
+
     def _start_compositor(self):
         self._background(["picom", "--backend", "xrender", "--no-vsync", "--no-fading-openclose"])
         selection = self.x.atom("_NET_WM_CM_S0")

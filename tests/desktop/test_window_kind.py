@@ -372,6 +372,16 @@ class BeforeAnyWindowManager(DesktopTest):
         until(lambda: "_NET_WM_STATE_ABOVE" in self.desktop.states(space), "it is on top")
         self.assertIn("_NET_WM_STATE_SKIP_TASKBAR", self.desktop.states(space))
 
+    def test_is_not_lost_when_it_starts_together_with_the_window_manager(self):
+        for _ in range(4):
+            manager = self.desktop.begin_window_manager("openbox")
+            program = self.desktop.start("window_probe", ["workspace", "Space", *map(str, OUT)])
+            space = until(lambda: program.find_window("^Space$"), "the workspace is on the screen")
+            until(lambda: self.desktop.geometry(space) == OUT, "it stands where it was put")
+            program.close()
+            manager.kill()
+            manager.wait()
+
 
 class WithoutServer(unittest.TestCase):
     def test_every_request_is_harmless_without_an_x_server(self):

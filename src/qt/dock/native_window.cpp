@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::uint32_t StateRemove = 0, StateAdd = 1;
 constexpr std::uint32_t SourcePager = 2;
+constexpr int firstLook = 200, lastLook = 6400; // milliseconds after it was shown
 constexpr std::string_view ClockProperty = "_QUILLMERE_CLOCK";
 
 // How a window manager lets a dock be a window that is not on top.
@@ -185,6 +186,28 @@ private:
             x11::WriteAtoms(Id(widget_), "_NET_WM_STATE",
                             {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"});
         Soon(&WorkspaceWindow::TellAll);
+        if (!watched_) WatchShown(firstLook);
+    }
+
+    // A window manager that is just starting may lose the request of a program that starts beside it, as at
+    // the start of a session; then it is made again.
+    void WatchShown(int milliseconds) {
+        watched_ = milliseconds <= lastLook;
+        if (watched_)
+            QTimer::singleShot(milliseconds, this, [this, milliseconds] {
+                if (widget_.isVisible() && !x11::IsTaken(Id(widget_))) ShowAgain();
+                WatchShown(2 * milliseconds);
+            });
+    }
+
+    // The toolkit sends only what it has not sent before, so the size is another one for a moment.
+    void ShowAgain() {
+        const QRect place = widget_.geometry();
+        widget_.hide();
+        widget_.resize(place.width() + 1, place.height());
+        widget_.setGeometry(place);
+        widget_.show();
+        TakeFocus(widget_);
     }
 
     void Soon(void (WorkspaceWindow::*action)()) { QTimer::singleShot(0, this, action); }
@@ -276,6 +299,7 @@ private:
     bool beyond_ = false; // reaches over the edge of the screens
     bool lifted_ = false; // raised on purpose since it was last at rest
     bool listed_ = false;
+    bool watched_ = false; // it is being looked after whether the window has reached the screen
     Habit habit_ = Habit::ChangesType;
 };
 

@@ -118,6 +118,15 @@ void Raise(WindowId window) {
     TellWindowManager(window, "_NET_RESTACK_WINDOW", {SourcePager, 0, above});
 }
 
+bool IsTaken(WindowId window) {
+    auto* server = Connection();
+    if (!server || !window) return true;
+    const auto asked = xcb_get_window_attributes(server, window);
+    const Reply<xcb_get_window_attributes_reply_t> answer(
+        xcb_get_window_attributes_reply(server, asked, nullptr), &std::free);
+    return !answer || answer->map_state != XCB_MAP_STATE_UNMAPPED || !Numbers(window, "WM_STATE").empty();
+}
+
 void Flush() {
     if (auto* server = Connection()) xcb_flush(server);
 }

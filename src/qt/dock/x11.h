@@ -39,6 +39,9 @@ void TellWindowManager(WindowId window, std::string_view message, std::initializ
 // some window managers hear only the one and some only the other.
 void Raise(WindowId window);
 
+// Whether the window has reached the screen, or a window manager has taken it and keeps it off (minimised).
+bool IsTaken(WindowId window);
+
 // Sends what the toolkit has queued; its own calls from a timer would wait for the next event.
 void Flush();
 
