@@ -190,12 +190,14 @@ private:
     }
 
     // A window manager that is just starting may lose the request of a program that starts beside it, as at
-    // the start of a session; then it is made again.
+    // the start of a session; then it is made again. A busy one may leave the toolkit with a wrong place.
     void WatchShown(int milliseconds) {
         watched_ = milliseconds <= lastLook;
         if (watched_)
             QTimer::singleShot(milliseconds, this, [this, milliseconds] {
-                if (widget_.isVisible() && !x11::IsTaken(Id(widget_))) ShowAgain();
+                if (!widget_.isVisible()) return WatchShown(2 * milliseconds);
+                if (!x11::IsTaken(Id(widget_))) ShowAgain();
+                x11::TellPlace(Id(widget_));
                 WatchShown(2 * milliseconds);
             });
     }

@@ -127,6 +127,24 @@ bool IsTaken(WindowId window) {
     return !answer || answer->map_state != XCB_MAP_STATE_UNMAPPED || !Numbers(window, "WM_STATE").empty();
 }
 
+void TellPlace(WindowId window) {
+    auto* server = Connection();
+    if (!server || !window) return;
+    const auto size = xcb_get_geometry(server, window);
+    const auto corner = xcb_translate_coordinates(server, window, Root(), 0, 0);
+    const Reply<xcb_get_geometry_reply_t> sized(xcb_get_geometry_reply(server, size, nullptr), &std::free);
+    const Reply<xcb_translate_coordinates_reply_t> placed(
+        xcb_translate_coordinates_reply(server, corner, nullptr), &std::free);
+    if (!sized || !placed) return;
+    xcb_configure_notify_event_t event{};
+    event.response_type = XCB_CONFIGURE_NOTIFY;
+    event.event = event.window = window;
+    event.x = placed->dst_x, event.y = placed->dst_y;
+    event.width = sized->width, event.height = sized->height;
+    xcb_send_event(server, 0, window, XCB_EVENT_MASK_STRUCTURE_NOTIFY, reinterpret_cast<const char*>(&event));
+    xcb_flush(server);
+}
+
 void Flush() {
     if (auto* server = Connection()) xcb_flush(server);
 }

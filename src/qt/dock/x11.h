@@ -42,6 +42,10 @@ void Raise(WindowId window);
 // Whether the window has reached the screen, or a window manager has taken it and keeps it off (minimised).
 bool IsTaken(WindowId window);
 
+// Tells the toolkit where its window stands, in the form in which window managers do it. A busy one may leave
+// the toolkit with a place that was true for a moment only, while it was taking the window.
+void TellPlace(WindowId window);
+
 // Sends what the toolkit has queued; its own calls from a timer would wait for the next event.
 void Flush();
 
