@@ -325,6 +325,23 @@ class Accessibility(DesktopTest):
         self.gone("panel", "Work")
         self.find("panel", "Play")
 
+    def test_each_control_of_the_properties_has_a_name_and_the_keyboard_reaches_it(self):
+        self.open([files.container("Work", note="words"), files.container("Play", x=4500)])
+        self.find("panel", "Work").do("Show Menu")
+        self.find("menu item", "Properties").do("Press")
+        name = self.find("text", "Name")
+        self.assertEqual(name.text(), "Work")
+        dialog = next(element for element in self.root.children() if element.role == "dialog")
+        controls = [element for element in dialog.walk() if {"focusable", "showing", "enabled"} <= element.states()]
+        self.assertGreater(len(controls), 8, controls)
+        self.assertEqual([element for element in controls if not element.name and element.role != "dialog"], [])
+        self.assertEqual(len(set(map(repr, controls))), len(controls), "each has a name of its own: %s" % controls)
+        reached = set()
+        for _ in range(2 * len(controls)):
+            self.desktop.key("Tab")
+            reached |= {repr(element) for element in controls if "focused" in element.states()}
+        self.assertGreaterEqual(reached, {repr(element) for element in controls if element.role in ("push button", "check box", "text", "combo box")})
+
     def test_the_element_is_told_again_when_a_box_has_closed(self):
         self.open([files.container("Work")])
         work = self.find("panel", "Work")
