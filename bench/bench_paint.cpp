@@ -1,14 +1,16 @@
-// How long frames of the real program take: its own backend on the display that is there, its own widgets, and
-// what it takes to hand a picture to the server. Called with the configuration folder of a workspace (the folder
-// that holds Quillmere/); the files in it are changed, so it must be a copy.
+// How long frames of the real program take: its own backend on the display that is there, its own widgets,
+// and what it takes to hand a picture to the server. Called with the configuration folder of a workspace (the
+// folder that holds Quillmere/); the files in it are changed, so it must be a copy.
 //
 // A frame is a change and all that follows of it until the server has the picture. Work is the time that the
 // processor worked for it: where the machine has other things to do that is the figure that still tells
 // something.
 #include "containers/fold.h"
+#include "containers/rubber_band.h"
 #include "containers/scroll.h"
 #include "containers/shrink.h"
 #include "core/frmMain.h"
+#include "core/handlers.h"
 #include "core/objects.h"
 #include "core/start.h"
 #include "core/surfaces.h"
@@ -22,7 +24,6 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <fstream>
@@ -33,9 +34,9 @@
 namespace quill {
 namespace {
 
-constexpr int Frames = 200;        // of what can be repeated at will
-constexpr int QuietTime = 400;     // milliseconds without a paint until all icons have come
-constexpr double Longest = 16;     // milliseconds
+constexpr int Frames = 200;    // of what can be repeated at will
+constexpr int QuietTime = 400; // milliseconds without a paint until all icons have come
+constexpr double Longest = 16; // milliseconds
 
 struct Frame {
     double Wall = 0, Work = 0; // milliseconds
@@ -127,15 +128,42 @@ std::vector<int> ContainersThat(const frmMain& Main, bool (*are)(const frmMain&,
     return found;
 }
 
+// A left button that is held, and what it was pressed on.
+class Hand {
+public:
+    Hand(frmMain& Main, SurfaceId surface, Point at) : main_(Main), surface_(surface), at_(at) {
+        MouseDown(main_, surface_, Event());
+    }
+    ~Hand() { MouseUp(main_, surface_, Event()); }
+    Hand(const Hand&) = delete;
+    Hand& operator=(const Hand&) = delete;
+
+    void MoveBy(Point by) {
+        at_ = {at_.X + by.X, at_.Y + by.Y};
+        MouseMove(main_, surface_, Event());
+    }
+
+private:
+    MouseEvent Event() const {
+        const Rect window = main_.View.Window;
+        return {at_, {window.Left + at_.X, window.Top + at_.Y}, MouseButton::Left};
+    }
+
+    frmMain& main_;
+    SurfaceId surface_;
+    Point at_; // where the surface was at the press
+};
+
 // To and fro across the workspace, over whatever lies there.
 class Route {
 public:
     Route(const frmMain& Main, int container)
         : room_(Main.View.picBack.Place), at_(Main.ConView(container).Container.Place) {}
-    Point Next() {
+    Point Step() {
+        const Point before{at_.Left, at_.Top};
         Turn(at_.Left, at_.Width, room_.Width, across_);
         Turn(at_.Top, at_.Height, room_.Height, down_);
-        return {at_.Left, at_.Top};
+        return {at_.Left - before.X, at_.Top - before.Y};
     }
 
 private:
@@ -147,22 +175,44 @@ private:
     float across_ = 11 * TwipsPerPixel, down_ = 4 * TwipsPerPixel;
 };
 
-void MoveTo(frmMain& Main, int container, Point place) {
-    auto& lies = Main.ConView(container).Container.Place;
-    lies.Left = place.X;
-    lies.Top = place.Y;
-    Main.Marks.Container(container);
+Point GripOf(const frmMain& Main, int container) {
+    const auto& view = Main.ConView(container);
+    if (IsShrunk(Main, container)) return {view.Container.Place.Width / 2, view.Container.Place.Height / 2};
+    const Rect& label = view.ContainerLabel.Place;
+    return {label.Left + label.Width / 2, label.Top + label.Height / 2};
 }
 
 void MeasureDragOf(frmMain& Main, const char* what, const std::vector<int>& among) {
     if (among.empty()) return;
     const int container = among[among.size() / 2];
-    AddToZorderCollection(Main, {KindContainer, container}, false);
+    const Rect before = Main.ConView(container).Container.Place;
+    std::vector<Frame> frames;
+    {
+        Hand hand(Main, {SurfaceKind::Container, container}, GripOf(Main, container));
+        Settle();
+        Route route(Main, container);
+        frames = Repeated(Frames, [&](int) { hand.MoveBy(route.Step()); });
+        if (Main.ConView(container).Container.Place == before) std::printf("it did not move:\n");
+    }
+    Print(what, frames);
+    Main.ConView(container).Container.Place = before;
+    Main.Marks.Container(container);
     Settle();
-    const auto before = Main.ConView(container).Container.Place;
-    Route route(Main, container);
-    Print(what, Repeated(Frames, [&](int) { MoveTo(Main, container, route.Next()); }));
-    MoveTo(Main, container, {before.Left, before.Top});
+}
+
+void MeasureBand(frmMain& Main) {
+    const auto& back = Main.View.picBack.Place;
+    Main.Group.frmSelection = {true, true, {0, back.Height / 3}, {0, back.Height / 3, 0, 0}};
+    const Point step{back.Width / Frames, back.Height / Frames / 2};
+    const auto grow = [&](int at) {
+        const float steps = static_cast<float>(at + 1);
+        MouseEvent event;
+        event.At = {step.X * steps, back.Height / 3 + step.Y * steps};
+        event.Button = MouseButton::Left;
+        MouseMove(Main, {}, event);
+    };
+    Print("a rubber band grows over everything", Repeated(Frames, grow));
+    UnloadSelection(Main);
     Settle();
 }
 
@@ -172,8 +222,10 @@ void MeasureRepaint(frmMain& Main) {
 }
 
 void MeasureDrag(frmMain& Main) {
-    MeasureDragOf(Main, "an open container is dragged over everything", ContainersThat(Main, IsShrunk, false));
+    MeasureDragOf(Main, "an open container is dragged over everything",
+                  ContainersThat(Main, IsShrunk, false));
     MeasureDragOf(Main, "a tile is dragged over everything", ContainersThat(Main, IsShrunk, true));
+    MeasureBand(Main);
 }
 
 void MeasureOpening(frmMain& Main) {

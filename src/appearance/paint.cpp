@@ -3,6 +3,7 @@
 #include "appearance/paint_parts.h"
 #include "appearance/palette.h"
 #include "core/frmMain.h"
+#include "core/shortcut_lists.h"
 
 #include <algorithm>
 
@@ -55,9 +56,13 @@ void PaintFocus(const frmMain& Main, SurfaceId surface, Canvas& canvas) {
 } // namespace
 
 void PaintSurface(frmMain& Main, SurfaceId surface, Canvas& canvas) {
+    PaintSurface(Main, surface, canvas, ShortcutLists(Main));
+}
+
+void PaintSurface(frmMain& Main, SurfaceId surface, Canvas& canvas, const ShortcutLists& lists) {
     if (Main.IsExiting) return;
-    if (surface.Kind == SurfaceKind::Workspace) PaintWorkspace(Main, canvas);
-    if (surface.Kind == SurfaceKind::Container) PaintContainer(Main, surface.Index, canvas);
+    if (surface.Kind == SurfaceKind::Workspace) PaintWorkspace(Main, lists, canvas);
+    if (surface.Kind == SurfaceKind::Container) PaintContainer(Main, surface.Index, lists, canvas);
     if (surface.Kind == SurfaceKind::Overlay) return PaintOverlay(Main, canvas);
     if (surface.Kind == SurfaceKind::Picture) PaintPicture(Main, surface.Index, canvas);
     PaintFocus(Main, surface, canvas);

@@ -60,8 +60,8 @@ Color TitleInk(const ContainerView& view) {
     return view.LabelSelected ? ExtremeOn(SelectionGround(view)) : view.MarkForeColor;
 }
 
-// The rim in the border's colour, the rest clipped to what it leaves free; selected ones have a wider rim, and
-// one that would take what is dragged over it the widest.
+// The rim in the border's colour, the rest clipped to what it leaves free; selected ones have a wider rim,
+// and one that would take what is dragged over it the widest.
 void BeginBody(const ContainerView& view, bool target, Canvas& canvas) {
     const Rect body = Body(view);
     const float radius = std::min({CornerRadius, body.Width / 2, body.Height / 2});
@@ -147,12 +147,13 @@ void PaintFeed(const frmMain& Main, int index, const ContainerView& view, Canvas
                      4 * HairLine, feed.FeedBackColor, {});
 }
 
-void PaintScrollBar(const frmMain& Main, int index, const ContainerView& view, Canvas& canvas) {
+void PaintScrollBar(const frmMain& Main, int index, const ShortcutLists& lists, Canvas& canvas) {
+    const ContainerView& view = Main.ConView(index);
     if (!view.VScroll.Visible) return;
     const Point frame{view.ContainerFrame.Place.Left, view.ContainerFrame.Place.Top};
     const float radius = view.VScroll.Place.Width / 2;
     canvas.RoundRect(Shifted(view.VScroll.Place, frame), radius, view.MarkForeColor, {}, 0.12F);
-    canvas.RoundRect(Shifted(ScrollThumb(Main, index), frame), radius, view.MarkForeColor, {}, 0.5F);
+    canvas.RoundRect(Shifted(ScrollThumb(Main, index, lists), frame), radius, view.MarkForeColor, {}, 0.5F);
 }
 
 void PrintReminderOrEncAtBottom(const frmMain& Main, int index, const ContainerView& view, Canvas& canvas) {
@@ -172,18 +173,18 @@ void DrawResizeSymbol(const ContainerView& view, Canvas& canvas) {
     canvas.Symbol("resize-grip", ResizeMarkPlace(Body(view)), view.MarkForeColor, 0.65F);
 }
 
-void PaintFrame(frmMain& Main, int index, Canvas& canvas) {
+void PaintFrame(frmMain& Main, int index, const ShortcutLists& lists, Canvas& canvas) {
     const ContainerView& view = Main.ConView(index);
     const Ground ground = FrameGround(Main, index);
     if (!view.ContainerFrame.Visible || !canvas.Exposed().Intersects(ground.Place)) return;
     if (ground.HasRamp) DrawGradient(canvas, ground.Place, ground.BackColor, ground.Kind);
     canvas.PushClip(ground.Place);
-    if (!view.PinPressed) PaintShortcuts(Main, ground, canvas); // a note covers them
+    if (!view.PinPressed) PaintShortcuts(Main, ground, lists, canvas); // a note covers them
     PaintFeed(Main, index, view, canvas);
     PaintNote(Main, view, canvas);
     PrintReminderOrEncAtBottom(Main, index, view, canvas);
     DrawResizeSymbol(view, canvas);
-    PaintScrollBar(Main, index, view, canvas);
+    PaintScrollBar(Main, index, lists, canvas);
     canvas.PopClip();
 }
 
@@ -208,14 +209,14 @@ void PaintTile(const ContainerView& view, Canvas& canvas) {
 
 } // namespace
 
-void PaintContainer(frmMain& Main, int Index, Canvas& canvas) {
+void PaintContainer(frmMain& Main, int Index, const ShortcutLists& lists, Canvas& canvas) {
     if (!IsLive(Main.Containers, Index)) return;
     const ContainerView& view = Main.ConView(Index);
     BeginBody(view, IsDropTarget(Main, Index), canvas);
     if (IsShrunk(Main, Index)) {
         PaintTile(view, canvas);
     } else {
-        if (!IsFolded(Main, Index)) PaintFrame(Main, Index, canvas);
+        if (!IsFolded(Main, Index)) PaintFrame(Main, Index, lists, canvas);
         PaintTitleGround(view, canvas);
         PaintTitle(Main, view, canvas);
     }

@@ -4,12 +4,13 @@
 
 #include "appearance/drawing_primitives.h"
 #include "core/frmMain.h"
+#include "core/shortcut_lists.h"
 #include "platform/drawing.h"
 
 namespace quill {
 
-void PaintWorkspace(frmMain& Main, Canvas& canvas);
-void PaintContainer(frmMain& Main, int Index, Canvas& canvas);
+void PaintWorkspace(frmMain& Main, const ShortcutLists& lists, Canvas& canvas);
+void PaintContainer(frmMain& Main, int Index, const ShortcutLists& lists, Canvas& canvas);
 void PaintOverlay(const frmMain& Main, Canvas& canvas);
 void PaintPicture(frmMain& Main, int Index, Canvas& canvas);
 
@@ -24,6 +25,6 @@ struct Ground {
     bool HasPicture = false; // of any brightness
 };
 // Every shortcut that lies there and is exposed: icon, caption, marks. Measures labels that are first seen.
-void PaintShortcuts(frmMain& Main, const Ground& ground, Canvas& canvas);
+void PaintShortcuts(frmMain& Main, const Ground& ground, const ShortcutLists& lists, Canvas& canvas);
 
 } // namespace quill

@@ -89,10 +89,11 @@ void PaintShortcut(frmMain& Main, int index, const Ground& ground, Canvas& canva
 
 } // namespace
 
-void PaintShortcuts(frmMain& Main, const Ground& ground, Canvas& canvas) {
+void PaintShortcuts(frmMain& Main, const Ground& ground, const ShortcutLists& lists, Canvas& canvas) {
     const auto covers = CoversAbove(Main, ground.In);
-    EachShortcutIn(Main, ground.In, [&](int link) {
-        const bool seen = Main.LinkView(link).Visible && MayBeSeen(Main, link, ground, canvas.Exposed());
+    const Rect exposed = canvas.Exposed();
+    lists.Each(Main, ground.In, [&](int link) {
+        const bool seen = Main.LinkView(link).Visible && MayBeSeen(Main, link, ground, exposed);
         if (seen && !IsCovered(covers, Reach(Main, link, ground))) PaintShortcut(Main, link, ground, canvas);
     });
 }

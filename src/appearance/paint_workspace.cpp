@@ -24,6 +24,11 @@ Ground WorkspaceGround(const frmMain& Main) {
     return ground;
 }
 
+bool WallpaperHidesAll(const frmMain& Main, Canvas& canvas) {
+    const std::string& file = Main.View.WallpaperFile;
+    return !file.empty() && Main.Settings.Stretch && canvas.Hides(file, BackPlace(Main));
+}
+
 // As it is from the upper left corner, or stretched over all of it. False: nothing of it can be seen yet.
 bool PaintWallpaper(frmMain& Main, Canvas& canvas) {
     const std::string& file = Main.View.WallpaperFile;
@@ -76,12 +81,14 @@ void PaintTitleRow(const frmMain& Main, Canvas& canvas) {
 
 } // namespace
 
-void PaintWorkspace(frmMain& Main, Canvas& canvas) {
+void PaintWorkspace(frmMain& Main, const ShortcutLists& lists, Canvas& canvas) {
     Ground ground = WorkspaceGround(Main);
-    canvas.FillRect(ground.Place, ground.BackColor);
-    if (ground.HasRamp) DrawGradient(canvas, ground.Place, ground.BackColor, ground.Kind);
+    if (!WallpaperHidesAll(Main, canvas)) {
+        canvas.FillRect(ground.Place, ground.BackColor);
+        if (ground.HasRamp) DrawGradient(canvas, ground.Place, ground.BackColor, ground.Kind);
+    }
     ground.HasPicture = PaintWallpaper(Main, canvas);
-    PaintShortcuts(Main, ground, canvas);
+    PaintShortcuts(Main, ground, lists, canvas);
     PaintTitleRow(Main, canvas);
 }
 

@@ -4,6 +4,7 @@
 #include "containers/measures.h"
 #include "core/handlers.h"
 #include "core/objects.h"
+#include "core/shortcut_lists.h"
 #include "notes/notes.h"
 
 #include <algorithm>
@@ -39,6 +40,34 @@ void Lay(frmMain& Main, int Index, float content) {
                           std::max(0.0F, frame.Height - FootHeight - ScrollBarTop)};
 }
 
+float PicturesBottom(const frmMain& Main, int Index, ObjectRef except = {}) {
+    float bottom = 0;
+    for (const auto& row : Live(Main.Pictures)) {
+        const auto& picture = Main.PicView(row.Index);
+        if (except == ObjectRef{MovedKind::Picture, row.Index}) continue;
+        if (picture.In == InContainer(Index)) bottom = std::max(bottom, picture.PicContainer.Bottom());
+    }
+    return bottom;
+}
+
+float HeightByLists(const frmMain& Main, int Index, const ShortcutLists& lists) {
+    float height = PicturesBottom(Main, Index);
+    lists.Each(Main, InContainer(Index), [&](int link) {
+        if (Main.LinkView(link).Visible) height = std::max(height, LinkBottom(Main, link));
+    });
+    return height;
+}
+
+Rect Thumb(const ContainerView& view, float content) {
+    const auto& bar = view.VScroll.Place;
+    const float seen = view.ContainerFrame.Place.Height;
+    const float wanted = std::max(measures::ScrollThumbSmallest, bar.Height * seen / std::max(content, 1.0F));
+    const float height = std::min(bar.Height, wanted);
+    const float furthest = FurthestTop(view, content);
+    const float part = furthest > 0 ? view.ScrollTop / furthest : 0;
+    return {bar.Left, bar.Top + part * (bar.Height - height), bar.Width, height};
+}
+
 float TopOfThumb(const frmMain& Main, int Index, float thumbTop) {
     const auto& view = Main.ConView(Index);
     const auto thumb = ScrollThumb(Main, Index);
@@ -50,20 +79,15 @@ float TopOfThumb(const frmMain& Main, int Index, float thumbTop) {
 } // namespace
 
 float ContentHeight(const frmMain& Main, int Index) {
-    return ContentHeight(Main, Index, {});
+    return ContentHeight(Main, Index, ObjectRef{});
 }
 
 float ContentHeight(const frmMain& Main, int Index, ObjectRef except) {
-    float height = 0;
+    float height = PicturesBottom(Main, Index, except);
     EachShortcutIn(Main, InContainer(Index), [&](int link) {
         if (except == ObjectRef{MovedKind::Shortcut, link}) return;
         if (Main.LinkView(link).Visible) height = std::max(height, LinkBottom(Main, link));
     });
-    for (const auto& row : Live(Main.Pictures)) {
-        const auto& picture = Main.PicView(row.Index);
-        if (except == ObjectRef{MovedKind::Picture, row.Index}) continue;
-        if (picture.In == InContainer(Index)) height = std::max(height, picture.PicContainer.Bottom());
-    }
     return height;
 }
 
@@ -106,14 +130,12 @@ void LayAllScrollBars(frmMain& Main) {
 
 Rect ScrollThumb(const frmMain& Main, int Index) {
     const auto& view = Main.ConView(Index);
-    if (!view.VScroll.Visible) return {};
-    const auto& bar = view.VScroll.Place;
-    const float content = ContentHeight(Main, Index), seen = view.ContainerFrame.Place.Height;
-    const float wanted = std::max(measures::ScrollThumbSmallest, bar.Height * seen / std::max(content, 1.0F));
-    const float height = std::min(bar.Height, wanted);
-    const float furthest = FurthestTop(view, content);
-    const float part = furthest > 0 ? view.ScrollTop / furthest : 0;
-    return {bar.Left, bar.Top + part * (bar.Height - height), bar.Width, height};
+    return view.VScroll.Visible ? Thumb(view, ContentHeight(Main, Index)) : Rect{};
+}
+
+Rect ScrollThumb(const frmMain& Main, int Index, const ShortcutLists& lists) {
+    const auto& view = Main.ConView(Index);
+    return view.VScroll.Visible ? Thumb(view, HeightByLists(Main, Index, lists)) : Rect{};
 }
 
 void VScroll_MouseDown(frmMain& Main, int Index, const MouseEvent& event) {

@@ -8,6 +8,7 @@
 namespace quill {
 
 struct MouseEvent;
+class ShortcutLists;
 
 inline constexpr float WheelStep = 465; // twips a notch, three lines of shortcuts at the usual spacing
 
@@ -15,6 +16,7 @@ float ContentHeight(const frmMain& Main, int Index, ObjectRef except); // of all
 void LayScrollBar(frmMain& Main, int Index);      // shows, hides and places VScroll, clamps ScrollTop
 void LayAllScrollBars(frmMain& Main);             // all containers in one walk over the shortcuts
 Rect ScrollThumb(const frmMain& Main, int Index); // in ContainerFrame; empty when there is no bar
+Rect ScrollThumb(const frmMain& Main, int Index, const ShortcutLists& lists); // the same by a list
 
 // A press beside the thumb turns a page, one on it holds it until the release.
 void VScroll_MouseDown(frmMain& Main, int Index, const MouseEvent& event);

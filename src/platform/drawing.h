@@ -61,6 +61,8 @@ public:
     // painted again when they come. False: not there (yet).
     virtual bool Icon(const IconSource& source, const Rect& place) = 0;
     virtual bool Picture(const std::string& path, const Rect& place) = 0;
+    // Whether a picture would hide all that lies under it: it is there, and no part of it is see-through.
+    virtual bool Hides(const std::string& /*path*/, const Rect& /*place*/) { return false; }
     // A button image of the current set ("lock", "dock" ...).
     virtual bool Button(const std::string& path, const Rect& place, Color fallbackInk,
                         std::string_view fallbackSymbol) = 0;

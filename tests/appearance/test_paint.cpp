@@ -2,13 +2,16 @@
 
 #include "appearance/colors.h"
 #include "appearance/drawing_primitives.h"
+#include "appearance/palette.h"
 #include "appearance/wallpaper.h"
 #include "containers/fold.h"
 #include "containers/gestures.h"
 #include "containers/layout.h"
 #include "containers/measures.h"
+#include "containers/scroll.h"
 #include "containers/shrink.h"
 #include "core/element_walk.h"
+#include "core/shortcut_lists.h"
 #include "fake/canvas.h"
 #include "fake/words.h"
 #include "notes/notes.h"
@@ -29,6 +32,7 @@ struct Painting : AtWork {
     fake::FakeCanvas Of(SurfaceId surface, Rect exposed = {0, 0, 1e6F, 1e6F}) {
         fake::FakeCanvas canvas(exposed);
         canvas.Missing = Missing;
+        canvas.Solid = Solid;
         PaintSurface(Main, surface, canvas);
         EXPECT_EQ(canvas.Clips, 0) << "a clip that is left cuts all that follows";
         return canvas;
@@ -43,7 +47,7 @@ struct Painting : AtWork {
         SetLabelColors(Main, index, 0xFFFFFF);
         return index;
     }
-    std::set<std::string> Missing;
+    std::set<std::string> Missing, Solid;
 };
 
 // ------------------------------------------------------------------------------------------- the workspace
@@ -88,6 +92,22 @@ TEST_F(Painting, WallpaperIsAsItIsOrStretched) {
     Main.Settings.Stretch = true;
     EXPECT_EQ(Workspace().LinesWith("picture"),
               std::vector<std::string>{"picture /home/user/lake.jpg 0,0 10000x7500"});
+}
+
+TEST_F(Painting, NothingIsPaintedUnderAWallpaperThatHidesAllOfIt) {
+    Computer.Files.Put("/home/user/lake.jpg", "x");
+    Main.Settings.Wallpaper = "/home/user/lake.jpg";
+    Main.Settings.Stretch = true;
+    Main.Settings.Gradient = true;
+    LoadWallpaper(Main);
+    EXPECT_EQ(Workspace().Lines.front(), "fill 0,0 10000x7500 #06131A") << "it may be see-through";
+    Solid = {"/home/user/lake.jpg"};
+    EXPECT_EQ(Workspace().Lines.front(), "picture /home/user/lake.jpg 0,0 10000x7500");
+    Missing = Solid;
+    EXPECT_EQ(Workspace().Lines.front(), "fill 0,0 10000x7500 #06131A") << "it is not there yet";
+    Missing = {};
+    Main.Settings.Stretch = false;
+    EXPECT_EQ(Workspace().Lines.front(), "fill 0,0 10000x7500 #06131A") << "it may be smaller";
 }
 
 TEST_F(Painting, AWallpaperThatIsNoPictureIsNotShown) {
@@ -139,6 +159,35 @@ TEST_F(Painting, CommandsAreMarkedWhereThatIsSet) {
 TEST_F(Painting, ATagViewsHiddenShortcutIsNotPainted) {
     Main.LinkView(File("/home/user/letter.odt")).Visible = false;
     EXPECT_TRUE(Workspace().LinesWith("letter.odt").empty());
+}
+
+TEST_F(Painting, WhatHasGoneSinceTheListsWereMadeIsNotPainted) {
+    const int box = NewBox("Projects");
+    const int deleted = File("/deleted"), moved = File("/moved");
+    File("/stays");
+    const ShortcutLists lists(Main);
+    DeleteShortcut(Main, deleted);
+    Main.LinkView(moved).In = InContainer(box);
+    const auto painted = [&](SurfaceId surface) {
+        fake::FakeCanvas canvas;
+        PaintSurface(Main, surface, canvas, lists);
+        return canvas.LinesWith("icon ");
+    };
+    const auto seen = painted({});
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_NE(seen[0].find("/stays"), std::string::npos);
+    EXPECT_TRUE(painted({SurfaceKind::Container, box}).empty()) << "it comes with the next lists";
+    EXPECT_EQ(Box(box).LinesWith("icon /moved").size(), 1U);
+}
+
+TEST_F(Painting, ContainersThatCameAfterTheListsWereMadeArePaintedWithoutShortcuts) {
+    const ShortcutLists lists(Main);
+    const int box = NewBox("Projects");
+    File("/letter", InContainer(box));
+    fake::FakeCanvas canvas;
+    PaintSurface(Main, {SurfaceKind::Container, box}, canvas, lists);
+    EXPECT_EQ(canvas.LinesWith("text \"Projects\"").size(), 1U);
+    EXPECT_TRUE(canvas.LinesWith("icon ").empty());
 }
 
 TEST_F(Painting, WhatIsNotSeenIsNeitherMeasuredNorAskedFor) {
@@ -249,6 +298,21 @@ TEST_F(Painting, ShortcutsOfAContainerAreClippedToItsFrameAndScrollWithIt) {
     Main.ConView(box).ScrollTop = 100;
     EXPECT_NE(place().find(" 645,535 "), std::string::npos) << place();
     EXPECT_EQ(Box(box).LinesWith("clip 0,290 3000x2710").size(), 1U);
+}
+
+TEST_F(Painting, TheThumbOfTheScrollBarStandsWhereItIsHeld) {
+    const int box = NewBox("Projects");
+    Main.LinkView(File("/far below", InContainer(box))).lblShortcut.Place.Top = 9000;
+    LayScrollBar(Main, box);
+    const auto thumb = [&] {
+        const Rect& frame = Main.ConView(box).ContainerFrame.Place;
+        return "round " + fake::Words(Shifted(ScrollThumb(Main, box), {frame.Left, frame.Top})) + " ";
+    };
+    EXPECT_EQ(Box(box).LinesWith(thumb()).size(), 1U) << Box(box).Painted();
+    const auto before = thumb();
+    ScrollContainer(Main, box, 3000);
+    EXPECT_NE(thumb(), before);
+    EXPECT_EQ(Box(box).LinesWith(thumb()).size(), 1U) << Box(box).Painted();
 }
 
 TEST_F(Painting, TheFramesRampIsUpsideDownBesideASmallTile) {

@@ -85,6 +85,28 @@ void PaintWindow(Canvas& canvas) {
     canvas.PopClip();
 }
 
+// A round box, and one that is filled row by row within a round clip.
+void PaintRound(Canvas& canvas) {
+    const Color blue = Rgb(0, 0, 255);
+    const float radius = 12 * TwipsPerPixel;
+    canvas.RoundRect(Pixels(250, 120, 50, 50), radius, blue, {});
+    canvas.PushClip(Pixels(310, 120, 50, 50), radius);
+    for (int row = 115; row < 175; ++row) canvas.FillRect(Pixels(305, row, 60, 1), blue);
+    canvas.PopClip();
+    canvas.RoundRect(Pixels(250, 180, 50, 50), radius, blue, {}, 0.5F);
+}
+
+// The same text without and with a halo, and with one again.
+void PaintHalos(Canvas& canvas) {
+    TextStyle style;
+    style.Font = {"DejaVu Sans", 12};
+    style.Ink = Rgb(255, 255, 255);
+    canvas.Text(Pixels(315, 180, 50, 24), "Hag", style);
+    style.Halo = true;
+    canvas.Text(Pixels(315, 210, 50, 24), "Hag", style);
+    canvas.Text(Pixels(315, 240, 50, 24), "Hag", style);
+}
+
 void PaintTurned(Canvas& canvas) {
     const auto print = [&](int x, int y, int angle) {
         const Rect at = Pixels(x, y, 0, 0);
@@ -113,6 +135,8 @@ int main(int argc, char** argv) {
         PaintRamps(canvas);
         PaintLabels(canvas);
         PaintWindow(canvas);
+        PaintRound(canvas);
+        PaintHalos(canvas);
         PaintTurned(canvas);
     }
     worker.Finish();

@@ -104,6 +104,52 @@ class Drawing(unittest.TestCase):
         self.assertNotEqual(self.sheet.at(263, 50), BLUE)
         self.assertEqual(self.sheet.at(310, 4), BLUE)
 
+    def rows(self, left, top, right, bottom):
+        """The pixels of the device in places of the sheet."""
+        scale = self.scale
+        return [[self.sheet.pixel(x, y) for x in range(left * scale, right * scale)]
+                for y in range(top * scale, bottom * scale)]
+
+    def test_the_four_corners_of_a_round_box_are_alike_and_smooth(self):
+        box = self.rows(250, 120, 300, 170)
+        self.assertEqual(box[0][0], GREY)
+        self.assertEqual(box[0][len(box) // 2], BLUE)
+        self.assertEqual(box[len(box) // 2][0], BLUE)
+        corner = [pixel for row in box[:12 * self.scale] for pixel in row[:12 * self.scale]]
+        self.assertGreater(len(set(corner)), 6, "it has steps")
+        near = lambda one, other: all(abs(a - b) <= 3 for a, b in zip(one, other))
+        for y, row in enumerate(box):
+            for x, pixel in enumerate(row):
+                for other in (row[-1 - x], box[-1 - y][x]):
+                    self.assertTrue(near(pixel, other), "%s and %s at %d, %d" % (pixel, other, x, y))
+
+    def test_what_is_clipped_round_has_the_shape_of_a_round_box(self):
+        near = lambda one, other: all(abs(a - b) <= 3 for a, b in zip(one, other))
+        box, clipped = self.rows(250, 120, 300, 170), self.rows(310, 120, 360, 170)
+        for here, there in zip(box, clipped):
+            self.assertTrue(all(map(near, here, there)))
+        self.assertEqual(self.sheet.inked(302, 112, 368, 178), (310, 120, 360, 170), "nothing beside it")
+
+    def test_a_see_through_round_box_is_mixed_once_everywhere(self):
+        box = self.rows(250, 180, 300, 230)
+        inner = [pixel for row in box[14 * self.scale:-14 * self.scale] for pixel in row]
+        self.assertEqual(len(set(inner)), 1, set(inner))
+        self.assertEqual(set(box[0][14 * self.scale:-14 * self.scale]), set(inner))
+        self.assertEqual(box[0][0], GREY)
+
+    def test_a_halo_goes_a_pixel_around_the_letters_and_is_the_same_each_time(self):
+        plain, halo, again = (self.rows(312, top, 366, top + 28) for top in (178, 208, 238))
+        self.assertEqual(halo, again)
+        def inked(rows):
+            found = [(x, y) for y, row in enumerate(rows) for x, pixel in enumerate(row) if pixel != GREY]
+            xs, ys = zip(*found)
+            return min(xs), min(ys), max(xs), max(ys)
+        left, top, right, bottom = inked(plain)
+        step = self.scale
+        self.assertEqual(inked(halo), (left - step, top - step, right + step, bottom + step))
+        dark = min(sum(pixel) for row in halo for pixel in row)
+        self.assertLess(dark, sum(GREY) / 2)
+
     def test_turned_text_runs_up_and_down_from_its_corner(self):
         flat = self.sheet.inked(375, 295, 500, 330)
         up = self.sheet.inked(390, 60, 425, 240)

@@ -83,6 +83,10 @@ bool FakeCanvas::Picture(const std::string& path, const Rect& place) {
     return There(path, "picture " + path + " " + Words(place));
 }
 
+bool FakeCanvas::Hides(const std::string& path, const Rect&) {
+    return Solid.contains(path) && !Missing.contains(path);
+}
+
 bool FakeCanvas::Button(const std::string& path, const Rect& place, Color fallbackInk,
                         std::string_view fallbackSymbol) {
     const std::string fallback = " or " + std::string(fallbackSymbol) + " " + ColorWords(fallbackInk);

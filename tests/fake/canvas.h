@@ -23,6 +23,7 @@ public:
     void Symbol(std::string_view name, const Rect& place, Color ink, float opacity) override;
     bool Icon(const IconSource& source, const Rect& place) override;
     bool Picture(const std::string& path, const Rect& place) override;
+    bool Hides(const std::string& path, const Rect& place) override;
     bool Button(const std::string& path, const Rect& place, Color fallbackInk,
                 std::string_view fallbackSymbol) override;
     void PushClip(const Rect& place, float radius) override;
@@ -30,6 +31,7 @@ public:
 
     std::vector<std::string> Lines;
     std::set<std::string> Missing; // files of icons, pictures and buttons that are not there (yet)
+    std::set<std::string> Solid;   // files of pictures through which nothing shows
     int Clips = 0;                 // pushed and not popped
 
     std::string Painted() const; // every line, one text

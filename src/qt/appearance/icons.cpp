@@ -12,11 +12,12 @@ namespace {
 
 constexpr int turnBudget = 4; // milliseconds of a turn
 
-QString KeyOf(const IconSource& source, int side) {
-    return QStringLiteral("%1|%2|%3|%4")
-        .arg(side)
-        .arg(source.IsImage ? 1 : 0)
-        .arg(Text(source.ThemeName), Text(source.File));
+std::string KeyOf(const IconSource& source, int side) {
+    std::string key = std::to_string(side);
+    key += source.IsImage ? '!' : '|';
+    key += source.ThemeName;
+    key += '|';
+    return key += source.File;
 }
 
 } // namespace
@@ -45,7 +46,7 @@ QImage Icons::Now(const IconSource& source, int side) {
 
 void Icons::Forget(const std::string& path) {
     for (auto at = entries_.begin(); at != entries_.end();)
-        at = (*at)->Source.File == path ? entries_.erase(at) : std::next(at);
+        at = at->second->Source.File == path ? entries_.erase(at) : std::next(at);
 }
 
 void Icons::Begin() {

@@ -14,6 +14,9 @@
 
 #include <deque>
 #include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
 
 namespace quill {
 
@@ -55,7 +58,7 @@ private:
     std::vector<EntryPtr> early_; // asked for before the first picture
     std::deque<Answer> answers_;  // to be looked up in the theme
     QBasicTimer turn_;
-    QHash<QString, EntryPtr> entries_;
+    std::unordered_map<std::string, EntryPtr> entries_;
     QHash<QString, QImage> drawn_; // by names and side: most files share their icon with others
 };
 

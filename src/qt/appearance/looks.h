@@ -1,11 +1,12 @@
 // Looks: all that the canvas fetches or makes once and keeps: fonts, symbols, icons, pictures.
 #pragma once
 
+#include "qt/appearance/corners.h"
 #include "qt/appearance/fonts.h"
 #include "qt/appearance/icons.h"
 #include "qt/appearance/pictures.h"
 #include "qt/appearance/symbols.h"
-#include "qt/appearance/text_block.h"
+#include "qt/appearance/text_cache.h"
 
 namespace quill {
 
@@ -14,7 +15,8 @@ struct Looks {
         : Symbols(symbolFolder), Icons(worker), Pictures(worker) {}
 
     quill::Fonts Fonts;
-    MeasuredText Measured;
+    TextCache Texts;
+    quill::Corners Corners;
     quill::Symbols Symbols;
     quill::Icons Icons;
     quill::Pictures Pictures;

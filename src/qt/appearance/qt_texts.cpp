@@ -19,10 +19,7 @@ Size QtTexts::MeasureText(const FontSpec& font, std::string_view text, float wra
     shape.Wrap = wrapWidth > 0;
     if (shape.Wrap) shape.Width = wrapWidth / TwipsPerPixel;
     auto& looks = display_.Get().Looks;
-    const FontEntry& entry = looks.Fonts.Get(font);
-    const QString shown = Text(text);
-    looks.Measured = {&entry, shown, std::make_unique<TextBlock>(entry, shown, shape)};
-    const auto& block = *looks.Measured.Block;
+    const auto& block = looks.Texts.Get(looks.Fonts.Get(font), text, shape).Block;
     return {static_cast<float>(block.Width()) * TwipsPerPixel,
             static_cast<float>(block.Height()) * TwipsPerPixel};
 }

@@ -22,17 +22,20 @@ qreal Indent(const QTextLine& line, const BlockShape& shape) {
 TextBlock::TextBlock(const FontEntry& font, QString text, const BlockShape& shape) {
     text.remove(QLatin1Char('\r'));
     qsizetype from = 0;
+    int paragraphs = 0;
     while (from <= text.size() && height_ < shape.Height) {
         auto end = text.indexOf(QLatin1Char('\n'), from);
         if (end < 0) end = text.size();
         AddParagraph(font, text.mid(from, end - from), shape);
         from = end + 1;
+        ++paragraphs;
     }
-    plain_ = paragraphs_.size() == 1 && !shape.Wrap && !shape.Elide && shape.Align == Qt::AlignLeft;
+    plain_ = paragraphs == 1 && !shape.Wrap && !shape.Elide && shape.Align == Qt::AlignLeft;
+    runs_.shrink_to_fit();
 }
 
 void TextBlock::Draw(QPainter& painter, QPointF corner) const {
-    for (const auto& paragraph : paragraphs_) paragraph->draw(&painter, corner);
+    for (const auto& run : runs_) painter.drawGlyphRun(corner, run);
 }
 
 bool TextBlock::AlsoFits(const BlockShape& shape) const {
@@ -50,7 +53,7 @@ void TextBlock::AddWholeLine(const FontEntry& font, const QString& text, const B
     const auto lay = [&](const QString& shown) {
         auto layout = std::make_unique<QTextLayout>(shown, font.Font);
         layout->setTextOption(Options(shape));
-        layout->setCacheEnabled(true); // or every drawing would shape the text again
+        layout->setCacheEnabled(true); // or what was shaped would be gone at the end of the layout
         layout->beginLayout();
         auto line = layout->createLine();
         if (line.isValid()) line.setLineWidth(shape.Width);
@@ -61,7 +64,7 @@ void TextBlock::AddWholeLine(const FontEntry& font, const QString& text, const B
     const bool tooLong = shape.Elide && layout->lineAt(0).naturalTextWidth() > shape.Width;
     if (tooLong) layout = lay(font.Metrics.elidedText(text, Qt::ElideRight, shape.Width));
     Place(layout->lineAt(0), shape);
-    paragraphs_.push_back(std::move(layout));
+    Keep(*layout);
 }
 
 void TextBlock::AddWrapped(const FontEntry& font, const QString& text, const BlockShape& shape) {
@@ -86,7 +89,7 @@ void TextBlock::AddWrapped(const FontEntry& font, const QString& text, const Blo
         height_ = top;
         AddCut(font, text, lastStart, shape);
     } else
-        paragraphs_.push_back(std::move(layout));
+        Keep(*layout);
 }
 
 void TextBlock::AddCut(const FontEntry& font, const QString& text, int lastStart, BlockShape shape) {
@@ -104,6 +107,10 @@ void TextBlock::Place(QTextLine line, const BlockShape& shape) {
     line.setPosition({Indent(line, shape), height_});
     width_ = std::max(width_, line.naturalTextWidth());
     height_ += line.height();
+}
+
+void TextBlock::Keep(const QTextLayout& layout) {
+    for (const auto& run : layout.glyphRuns()) runs_.push_back(run);
 }
 
 } // namespace quill

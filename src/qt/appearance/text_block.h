@@ -1,15 +1,16 @@
 // TextBlock: a plain text laid out in a box, once, so that it can be measured and drawn several times. Only
-// what fits the height is laid out. Nothing in a text is ever read as markup.
+// what fits the height is laid out, and only where its letters stand is kept. Nothing in a text is ever read
+// as markup.
 #pragma once
 
 #include "qt/appearance/fonts.h"
 
+#include <QGlyphRun>
 #include <QPainter>
 #include <QString>
 #include <QTextLayout>
 
 #include <limits>
-#include <memory>
 #include <vector>
 
 namespace quill {
@@ -20,6 +21,7 @@ struct BlockShape {
     bool Wrap = false;
     bool Elide = false;
     Qt::Alignment Align = Qt::AlignLeft;
+    bool operator==(const BlockShape&) const = default;
 };
 
 class TextBlock {
@@ -39,23 +41,12 @@ private:
     void AddWrapped(const FontEntry& font, const QString& text, const BlockShape& shape);
     void AddCut(const FontEntry& font, const QString& text, int lastStart, BlockShape shape);
     void Place(QTextLine line, const BlockShape& shape);
+    void Keep(const QTextLayout& layout);
 
-    std::vector<std::unique_ptr<QTextLayout>> paragraphs_;
+    std::vector<QGlyphRun> runs_;
     qreal width_ = 0;
     qreal height_ = 0;
     bool plain_ = false; // one line, from the left
-};
-
-// The text that was measured last. What is measured because it is seen for the first time is drawn next, and
-// need not be laid out a second time for it.
-struct MeasuredText {
-    const FontEntry* Font = nullptr;
-    QString Text;
-    std::unique_ptr<TextBlock> Block;
-
-    bool Is(const FontEntry& font, const QString& text, const BlockShape& shape) const {
-        return Block && Font == &font && Text == text && Block->AlsoFits(shape);
-    }
 };
 
 } // namespace quill

@@ -12,6 +12,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 namespace quill {
@@ -30,20 +31,27 @@ bool IsLiveSurface(const frmMain& Main, SurfaceId id) {
     return true;
 }
 
-// The workspace shows at the round corners of a container, and between two pixels at its edges.
-QRegion SolidPart(const QRect& place) {
-    constexpr int corner = 12, edge = 1; // pixels
-    return QRegion(place.adjusted(corner, edge, -corner, -edge)) +
-           place.adjusted(edge, corner, -edge, -corner);
+// How many from the beginning stand in their order already.
+template <class Children, class Wanted> auto InOrder(const Children& children, const Wanted& wanted) {
+    auto next = wanted.begin();
+    for (const QObject* child : children)
+        if (next != wanted.end() && child == *next) ++next;
+    return next - wanted.begin();
 }
 
-// The order of a parent's children is their stacking, the last on top. What is raised is painted again, so
-// only those are that do not stand in their order yet.
-void BringIntoOrder(const QWidget& parent, const std::vector<QWidget*>& wanted) {
-    auto next = wanted.begin();
-    for (QObject* child : parent.children())
-        if (next != wanted.end() && child == *next) ++next;
-    for (; next != wanted.end(); ++next) (*next)->raise();
+// The order of a parent's children is their stacking, the last on top. Each move paints what is moved and all
+// that lies there, so that as few are moved as will do: what is out of order is raised, or, where that is
+// less, lowered.
+void Stack(const QWidget& parent, const std::vector<QWidget*>& wanted) {
+    const auto& children = parent.children();
+    const auto all = static_cast<std::ptrdiff_t>(wanted.size());
+    const auto low = InOrder(children, wanted);
+    const auto high =
+        low == all ? all : InOrder(children | std::views::reverse, wanted | std::views::reverse);
+    if (low >= high)
+        std::for_each(wanted.begin() + low, wanted.end(), [](QWidget* surface) { surface->raise(); });
+    else
+        std::for_each(wanted.rbegin() + high, wanted.rend(), [](QWidget* surface) { surface->lower(); });
 }
 
 } // namespace
@@ -62,7 +70,13 @@ void Stage::Wake() {
 void Stage::Drain() {
     if (!attached_.Alive()) return;
     const MarkTurn turn(attached_.Main->Marks);
+    lists_.reset();
     Apply(turn.Set);
+}
+
+const ShortcutLists& Stage::Lists() {
+    if (!lists_) lists_.emplace(*attached_.Main);
+    return *lists_;
 }
 
 MainWidget& Stage::Main() {
@@ -171,7 +185,7 @@ SurfaceWidget* Stage::Find(SurfaceId id) const {
 }
 
 SurfaceWidget* Stage::Make(SurfaceId id) {
-    auto* surface = new SurfaceWidget(id, {attached_, looks_, notes_}, ParentOf(id));
+    auto* surface = new SurfaceWidget(id, {attached_, looks_, notes_, *this}, ParentOf(id));
     surfaces_[id] = surface;
     restack_ = true;
     return surface;
@@ -203,7 +217,7 @@ void Stage::Restack() {
     std::map<QWidget*, std::vector<QWidget*>> byParent;
     for (const SurfaceId id : Surfaces(*attached_.Main))
         if (QWidget* surface = Find(id)) byParent[surface->parentWidget()].push_back(surface);
-    for (const auto& [parent, wanted] : byParent) BringIntoOrder(*parent, wanted);
+    for (const auto& [parent, wanted] : byParent) Stack(*parent, wanted);
     notes_.Raise();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/surfaces.h"
+#include "core/shortcut_lists.h"
 #include "platform/windows.h"
 #include "qt/core/accessible_desk.h"
 #include "qt/core/surface_widget.h"
@@ -16,6 +17,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace quill {
@@ -35,6 +37,8 @@ public:
     QWidget& Tip();
     // Null for a window that this backend does not have.
     QWidget* Window(WindowId window);
+    // Where things lay when the marks were last taken: what has changed since is about to be painted anyway.
+    const ShortcutLists& Lists();
 
     std::function<void()> OnFirstPicture; // what had to wait for it; empty: nothing
 
@@ -66,6 +70,7 @@ private:
     std::unique_ptr<SplashWidget> splash_;
     std::unique_ptr<TipWidget> tip_;
     std::map<SurfaceId, SurfaceWidget*> surfaces_; // owned by their parents
+    std::optional<ShortcutLists> lists_;       // made for the first surface that is painted
     bool woken_ = false;
     bool restack_ = false;
     bool seen_ = false; // the server has shown the workspace

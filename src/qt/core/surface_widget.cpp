@@ -7,6 +7,7 @@
 #include "qt/appearance/qt_canvas.h"
 #include "qt/core/convert.h"
 #include "qt/core/plain_tip.h"
+#include "qt/core/stage.h"
 #include "qt/notes/note_desk.h"
 
 #include <QHelpEvent>
@@ -91,6 +92,12 @@ std::optional<ElementInfo> InfoAt(const frmMain& Main, SurfaceId surface, Point 
 
 } // namespace
 
+QRegion SolidPart(const QRect& place) {
+    constexpr int corner = 12, edge = 1; // pixels
+    return QRegion(place.adjusted(corner, edge, -corner, -edge)) +
+           place.adjusted(edge, corner, -edge, -corner);
+}
+
 MouseEvent MouseOf(const QMouseEvent& event, QPointF origin) {
     const auto held = event.modifiers();
     MouseEvent mouse;
@@ -127,8 +134,28 @@ bool SurfaceWidget::event(QEvent* event) {
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
     if (!Alive()) return;
     QPainter painter(this);
-    QtCanvas canvas(painter, *this, event->region(), context_.Looks);
-    PaintSurface(*context_.Attached.Main, id_, canvas);
+    QtCanvas canvas(painter, *this, Uncovered(event->region()), context_.Looks);
+    PaintSurface(*context_.Attached.Main, id_, canvas, context_.Stage.Lists());
+}
+
+// The toolkit paints everything under what has round corners. What containers above will paint over is left
+// out.
+QRegion SurfaceWidget::Uncovered(const QRegion& region) const {
+    const bool workspace = id_.Kind == SurfaceKind::Workspace;
+    const QPoint corner = workspace ? QPoint() : pos();
+    const QRect around = region.boundingRect().translated(corner);
+    const QObject& siblings = workspace ? static_cast<const QObject&>(*this) : *parent();
+    bool above = workspace;
+    QRegion seen = region;
+    for (const QObject* child : siblings.children()) {
+        const auto* other = above ? dynamic_cast<const SurfaceWidget*>(child) : nullptr;
+        const bool covers =
+            other != nullptr && other->id_.Kind == SurfaceKind::Container && other->isVisible();
+        if (covers && around.intersects(other->geometry()))
+            seen -= SolidPart(other->geometry()).translated(-corner);
+        above = above || child == this;
+    }
+    return seen;
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {

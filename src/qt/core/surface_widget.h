@@ -16,12 +16,14 @@ namespace quill {
 
 struct Looks;
 class NoteDesk;
+class Stage;
 
 // What a surface needs of its stage.
 struct SurfaceContext {
     const Attachment& Attached;
     quill::Looks& Looks;
     NoteDesk& Notes;
+    quill::Stage& Stage;
 };
 
 class SurfaceWidget : public QWidget {
@@ -47,6 +49,7 @@ protected:
 
 private:
     bool Alive() const;
+    QRegion Uncovered(const QRegion& region) const;
     void ShowTip(QPoint at, QPoint screen);
     void ShowPointer(Point at);
     void OpenNoteAt(Point at, const QMouseEvent& event);
@@ -56,6 +59,9 @@ private:
     SurfaceDrops drops_;
     int wheel_ = 0; // eighths of a degree that make no whole step yet
 };
+
+// What a surface in this place hides for certain: the corners are round, and the edges may lie between pixels.
+QRegion SolidPart(const QRect& place);
 
 // A mouse event in the logic's terms; the origin is that of the surface in the coordinates of the event.
 MouseEvent MouseOf(const QMouseEvent& event, QPointF origin = {});
