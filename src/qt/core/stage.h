@@ -2,8 +2,8 @@
 // a turn of the event loop and makes the screen what the tables say; nothing else writes to a widget.
 #pragma once
 
-#include "core/surfaces.h"
 #include "core/shortcut_lists.h"
+#include "core/surfaces.h"
 #include "platform/windows.h"
 #include "qt/core/accessible_desk.h"
 #include "qt/core/surface_widget.h"
@@ -70,7 +70,7 @@ private:
     std::unique_ptr<SplashWidget> splash_;
     std::unique_ptr<TipWidget> tip_;
     std::map<SurfaceId, SurfaceWidget*> surfaces_; // owned by their parents
-    std::optional<ShortcutLists> lists_;       // made for the first surface that is painted
+    std::optional<ShortcutLists> lists_;           // made for the first surface that is painted
     bool woken_ = false;
     bool restack_ = false;
     bool seen_ = false; // the server has shown the workspace

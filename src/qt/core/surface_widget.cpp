@@ -90,6 +90,14 @@ std::optional<ElementInfo> InfoAt(const frmMain& Main, SurfaceId surface, Point 
     return found;
 }
 
+// The last pixels may belong to the frame half, where the scaling is not whole. What shows there is nobody's
+// else.
+void FillFarEdges(QPainter& painter, Color color) {
+    const QRect place = painter.window();
+    painter.fillRect(QRect(place.right(), place.top(), 1, place.height()), Ink(color));
+    painter.fillRect(QRect(place.left(), place.bottom(), place.width(), 1), Ink(color));
+}
+
 } // namespace
 
 QRegion SolidPart(const QRect& place) {
@@ -134,6 +142,7 @@ bool SurfaceWidget::event(QEvent* event) {
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
     if (!Alive()) return;
     QPainter painter(this);
+    if (id_.Kind == SurfaceKind::Workspace) FillFarEdges(painter, context_.Attached.Main->View.FrameColor);
     QtCanvas canvas(painter, *this, Uncovered(event->region()), context_.Looks);
     PaintSurface(*context_.Attached.Main, id_, canvas, context_.Stage.Lists());
 }

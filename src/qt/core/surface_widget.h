@@ -60,7 +60,8 @@ private:
     int wheel_ = 0; // eighths of a degree that make no whole step yet
 };
 
-// What a surface in this place hides for certain: the corners are round, and the edges may lie between pixels.
+// What a surface in this place hides for certain: the corners are round, and the edges may lie between
+// pixels.
 QRegion SolidPart(const QRect& place);
 
 // A mouse event in the logic's terms; the origin is that of the surface in the coordinates of the event.
