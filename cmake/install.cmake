@@ -18,3 +18,5 @@ foreach(file IN LISTS beside ITEMS ${quillmere_data}/Skin ${quillmere_data}/symb
   get_filename_component(name ${file} NAME)
   file(CREATE_LINK ${file} ${built_beside}/${name} SYMBOLIC)
 endforeach()
+file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/share/icons)
+file(CREATE_LINK ${quillmere_data}/icons/hicolor ${CMAKE_BINARY_DIR}/share/icons/hicolor SYMBOLIC)

@@ -64,6 +64,8 @@ void PaintSurface(frmMain& Main, SurfaceId surface, Canvas& canvas, const Shortc
     if (surface.Kind == SurfaceKind::Workspace) PaintWorkspace(Main, lists, canvas);
     if (surface.Kind == SurfaceKind::Container) PaintContainer(Main, surface.Index, lists, canvas);
     if (surface.Kind == SurfaceKind::Overlay) return PaintOverlay(Main, canvas);
+    if (surface.Kind == SurfaceKind::MiniDock) return PaintMiniDock(Main, canvas);
+    if (surface.Kind == SurfaceKind::MiniToolbar) return PaintMiniToolbar(Main, canvas);
     if (surface.Kind == SurfaceKind::Picture) PaintPicture(Main, surface.Index, canvas);
     PaintFocus(Main, surface, canvas);
 }

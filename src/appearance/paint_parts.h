@@ -12,7 +12,9 @@ namespace quill {
 void PaintWorkspace(frmMain& Main, const ShortcutLists& lists, Canvas& canvas);
 void PaintContainer(frmMain& Main, int Index, const ShortcutLists& lists, Canvas& canvas);
 void PaintOverlay(const frmMain& Main, Canvas& canvas);
+void PaintMiniToolbar(const frmMain& Main, Canvas& canvas);
 void PaintPicture(frmMain& Main, int Index, Canvas& canvas);
+void PaintMiniDock(const frmMain& Main, Canvas& canvas);
 
 // What lies behind the captions of shortcuts.
 struct Ground {

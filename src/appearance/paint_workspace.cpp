@@ -51,6 +51,7 @@ void PaintButtons(const frmMain& Main, Canvas& canvas) {
     PaintButton(Main, view.PicDock, "dock", canvas);
     PaintButton(Main, view.PicLockToolbar, "lock", canvas);
     PaintButton(Main, view.PicUnLockToolbar, "unlock", canvas);
+    PaintButton(Main, view.ImgLock, "lock", canvas);
     if (!view.PicMenu.Visible) return;
     const Rect place = Shifted(view.PicMenu.Place, {view.picMoveMe.Place.Left, view.picMoveMe.Place.Top});
     canvas.Symbol("menu", place, view.CaptionForeColor);

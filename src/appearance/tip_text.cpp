@@ -1,4 +1,4 @@
-// What a container's tip says.
+// What a tip says.
 #include "appearance/tips.h"
 
 #include "core/objects.h"
@@ -128,6 +128,30 @@ void AddGestures(const frmMain& Main, int Index, Lines& lines) {
     lines.push_back(Tr(Main, "Drag: Change Location (Ctrl+Z: Undo)"));
 }
 
+// What is said of the workspace's title first.
+std::string HeadOfTitle(const frmMain& Main) {
+    const auto& selected = Main.Links.SelectedShortcuts;
+    if (selected.size() == 1 && IsLive(Main.Shortcuts, selected.front())) {
+        const auto& link = Main.Link(selected.front());
+        const auto& name = link.FullCaption.empty() ? FileName(link.Path) : link.FullCaption;
+        return Tr(Main, "Selected Shortcut: %1", Item(name));
+    }
+    return Main.Settings.PreventWindowMovement ? Tr(Main, "WORKSPACE POSITION IS LOCKED")
+                                               : Tr(Main, "Click and hold to move the workspace");
+}
+
+struct SwitchLine {
+    std::string_view Pattern;
+    bool SettingsRecord::*Setting;
+};
+
+constexpr SwitchLine titleSwitches[] = {
+    {"Undock on Click: %1", &SettingsRecord::UndockOnClick},
+    {"Undock Immediately: %1", &SettingsRecord::UndockImmediately},
+    {"Grab Focus: %1", &SettingsRecord::GrabFocus},
+    {"Center Mouse: %1", &SettingsRecord::CenterMouse},
+};
+
 // No empty line begins or ends it, and none follows another.
 std::string Joined(const Lines& lines) {
     std::string text;
@@ -148,6 +172,14 @@ std::string TipOfContainer(const frmMain& Main, int Index) {
     if (!Main.Settings.ShowTips || !IsLive(Main.Containers, Index)) return {};
     auto lines = ItemsOf(Main, Index);
     if (Main.Settings.WhichTips == 0) AddGestures(Main, Index, lines);
+    return Joined(lines);
+}
+
+std::string TipOfTitle(const frmMain& Main) {
+    if (!Main.Settings.ShowTips || Main.Dock.Maximized) return {};
+    Lines lines{HeadOfTitle(Main), ""};
+    for (const auto& [pattern, setting] : titleSwitches)
+        lines.push_back(Tr(Main, pattern, Tr(Main, Main.Settings.*setting ? "On" : "Off")));
     return Joined(lines);
 }
 

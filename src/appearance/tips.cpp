@@ -37,14 +37,25 @@ SurfaceId SurfaceAt(const frmMain& Main, Point at) {
     return found;
 }
 
-// Whether the cursor is over the title or tile of this container, and nothing covers that.
+// The buttons in the row have words of their own.
+bool IsTitleAt(const frmMain& Main, Point at) {
+    if (!Main.View.picMoveMe.Place.Contains(at.X, at.Y)) return false;
+    const auto hit = ElementAt(Main, {}, at).Kind;
+    return hit == ElementKind::lblCaption || hit == ElementKind::picMoveMe;
+}
+
+// Whether the cursor is over the title or tile of this container, or over the workspace's own title, and
+// nothing covers that. What the session has told as left counts as left.
 bool IsPointedAt(const frmMain& Main, int container) {
-    if (!IsLive(Main.Containers, container)) return false;
+    const bool title = container == TitleTip;
+    if (Main.Dock.PointerAway || !(title ? Main.View.Visible : IsLive(Main.Containers, container)))
+        return false;
     const auto cursor = Main.P.Windows.GetCursorPos();
     const auto& back = Main.View.picBack.Place;
     const Point at{cursor.X - Main.View.Window.Left - back.Left, cursor.Y - Main.View.Window.Top - back.Top};
-    const SurfaceId surface{SurfaceKind::Container, container};
+    const SurfaceId surface = title ? SurfaceId{} : SurfaceId{SurfaceKind::Container, container};
     if (SurfaceAt(Main, at) != surface) return false;
+    if (title) return IsTitleAt(Main, at);
     const auto place = PlaceOfSurface(Main, surface);
     const auto hit = ElementAt(Main, surface, {at.X - place.Left, at.Y - place.Top});
     return hit.Kind == ElementKind::ContainerLabel || hit.Kind == ElementKind::ContainerIcon;
@@ -93,6 +104,10 @@ void ContainerLabel_MouseMove(frmMain& Main, int Index, const MouseEvent&) {
     Main.P.Clock.Start({TimerName::TimerTip}, restTime);
 }
 
+void Title_MouseMove(frmMain& Main, const MouseEvent& event) {
+    if (IsTitleAt(Main, event.At)) ContainerLabel_MouseMove(Main, TitleTip, event);
+}
+
 void Tip_MouseLeave(frmMain& Main, int Index) {
     auto& tip = Main.Looks.frmTip;
     if (tip.Container != Index) return;
@@ -129,7 +144,9 @@ void TimerTip_Timer(frmMain& Main) {
     Main.P.Clock.Stop({TimerName::TimerTip});
     if (!tip.Waiting) return;
     const bool wanted = Main.Dock.DialogPauses == 0 && IsPointedAt(Main, tip.Container);
-    const auto text = wanted ? TipOfContainer(Main, tip.Container) : std::string();
+    const auto text = !wanted                     ? std::string()
+                      : tip.Container == TitleTip ? TipOfTitle(Main)
+                                                  : TipOfContainer(Main, tip.Container);
     if (text.empty()) return HideTip(Main);
     SetTip(Main, text);
 }

@@ -34,6 +34,7 @@ struct Move {
 // All in one step, and only what moves.
 void MoveAll(frmMain& Main, std::vector<Move> moves) {
     std::erase_if(moves, [&](const Move& move) { return move.To == PlaceOf(Main, move.Index); });
+    if (moves.empty() || !NeedsEdit(Main, Edit::Containers)) return;
     MoveStep before;
     for (const auto& [index, to] : moves) before.push_back(PlaceNow(Main, MovedKind::Container, index));
     for (const auto& [index, to] : moves) {

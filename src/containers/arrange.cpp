@@ -85,7 +85,7 @@ void SetFontSize(frmMain& Main, int link, int points) {
 // What is no font size leaves a shortcut as it is.
 template <class NewSize> void ChangeFontSizes(frmMain& Main, const NewSize& newSize) {
     const auto links = SelectedLinks(Main);
-    if (links.empty() || !MayMoveShortcuts(Main)) return;
+    if (links.empty() || !NeedsEdit(Main, Edit::Shortcuts)) return;
     for (const int link : links) {
         const int points = newSize(Main.Link(link).FontSize);
         if (points >= smallestFont && points <= largestFont) SetFontSize(Main, link, points);
@@ -152,7 +152,7 @@ std::optional<double> AskNumber(frmMain& Main, InputQuestion question) {
 
 void SortShortcuts(frmMain& Main, SortOrder order) {
     const auto links = SelectedLinks(Main);
-    if (links.empty() || !MayMoveShortcuts(Main)) return;
+    if (links.empty() || !NeedsEdit(Main, Edit::Shortcuts)) return;
     auto before = PlacesOf(Main, links);
     for (const auto& in : ParentsOf(Main, links)) SortIn(Main, in, links, order);
     PushMove(Main, std::move(before));
@@ -188,6 +188,7 @@ void mnuLineSpacing_Click(frmMain& Main) {
     if (!MayMoveShortcuts(Main)) return;
     const auto pixels = AskNumber(Main, SpacingQuestion(Main, in));
     if (!pixels || (in.Kind == ParentKind::ContainerFrame && !IsLive(Main.Containers, in.Index))) return;
+    if (!NeedsEdit(Main, Edit::Shortcuts)) return;
     SetSpacing(Main, in, AnsweredSpacing(Main, in, *pixels));
     RelayShortcuts(Main, in);
     SaveWorkspace(Main, true, false);

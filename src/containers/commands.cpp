@@ -5,6 +5,7 @@
 #include "containers/full_size.h"
 #include "containers/layout.h"
 #include "containers/lifecycle.h"
+#include "containers/lock.h"
 #include "containers/selection.h"
 #include "containers/undo.h"
 #include "core/objects.h"
@@ -127,6 +128,7 @@ void mnuConRemove_Click(frmMain& Main) {
 void mnuConSwitchPlaces_Click(frmMain& Main) {
     const auto selected = SelectedContainers(Main);
     if (selected.size() != 2) return TellToSelectTwo(Main);
+    if (!NeedsEdit(Main, Edit::Containers)) return;
     const int one = selected.front(), other = selected.back();
     const auto first = PlaceNow(Main, MovedKind::Container, one);
     const auto second = PlaceNow(Main, MovedKind::Container, other);
@@ -138,9 +140,10 @@ void mnuConSwitchPlaces_Click(frmMain& Main) {
 
 void mnuSetContainerSize_Click(frmMain& Main) {
     const int model = Main.Group.CurrentContainer;
-    if (!IsLive(Main.Containers, model)) return;
+    if (!IsLive(Main.Containers, model) || !MayMoveContainers(Main)) return;
     const auto question = Tr(Main, "Resize selected containers to match '%1' size?", NameOf(Main, model));
     if (!Agrees(Main, question) || !IsLive(Main.Containers, model)) return;
+    if (!NeedsEdit(Main, Edit::Containers)) return;
     RememberPresentSize(Main, model);
     for (const int index : SelectedContainers(Main)) TakeSizeOf(Main, index, model);
     SaveContainers(Main, true);

@@ -108,7 +108,7 @@ void TakeSpacing(frmMain& Main, int Index, const std::string& text) {
     if (!pixels) return;
     const auto twips = std::lround(std::clamp(*pixels, -mostPixels, mostPixels) * TwipsPerPixel);
     Main.Con(Index).LineSpacing = static_cast<std::int16_t>(GetProperSpacing(static_cast<int>(twips)));
-    if (!MayMoveShortcuts(Main)) return;
+    if (!NeedsEdit(Main, Edit::Shortcuts)) return;
     MoveStep before;
     EachShortcutIn(Main, InContainer(Index),
                    [&](int link) { before.push_back(PlaceNow(Main, MovedKind::Shortcut, link)); });

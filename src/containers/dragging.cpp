@@ -4,6 +4,7 @@
 #include "containers/full_size.h"
 #include "containers/gestures.h"
 #include "containers/layout.h"
+#include "containers/lock.h"
 #include "containers/selection.h"
 #include "containers/undo.h"
 #include "core/handlers.h"
@@ -117,11 +118,14 @@ void KeepInView(frmMain& Main, int Shortcut) {
     ScrollIntoView(Main, in.Index, place);
 }
 
-void StartMoving(frmMain& Main) {
+// False: the lock holds it where it is, however far the hand goes.
+bool StartMoving(frmMain& Main) {
+    if (!NeedsEdit(Main, Edit::Containers)) return false;
     auto& drag = Main.Group.Drag;
     drag.Moving = true;
     drag.Parts = PartsWith(Main, drag.Pressed);
     Main.Dock.WorkspaceDragging = true;
+    return true;
 }
 
 // The drag as it was; nothing is held any more.
@@ -144,7 +148,7 @@ void ContainerDrag_MouseMove(frmMain& Main, const MouseEvent& event) {
     // The release went elsewhere, as to a box that opened.
     if (event.Button != MouseButton::Left) return static_cast<void>(ContainerDrag_MouseUp(Main, event));
     if (!drag.Moving && IsSlip(drag.PressScreen, event.Screen)) return;
-    if (!drag.Moving) StartMoving(Main);
+    if (!drag.Moving && !StartMoving(Main)) return;
     MoveParts(Main, drag.Parts, {event.Screen.X - drag.PressScreen.X, event.Screen.Y - drag.PressScreen.Y});
 }
 
@@ -175,7 +179,7 @@ void CancelContainerDrag(frmMain& Main) {
 }
 
 void MoveContainersByKey(frmMain& Main, float x, float y) {
-    if (!IsLive(Main.Containers, Main.Group.CurrentContainer)) return;
+    if (!IsLive(Main.Containers, Main.Group.CurrentContainer) || !NeedsEdit(Main, Edit::Containers)) return;
     const auto parts = PartsWith(Main, Main.Group.CurrentContainer);
     MoveParts(Main, parts, {x, y});
     FinishMove(Main, parts, true);
@@ -183,7 +187,7 @@ void MoveContainersByKey(frmMain& Main, float x, float y) {
 
 void MoveShortcutsByKey(frmMain& Main, float x, float y) {
     const int current = Main.Links.CurrentShortcut;
-    if (!IsLive(Main.Shortcuts, current)) return;
+    if (!IsLive(Main.Shortcuts, current) || !NeedsEdit(Main, Edit::Shortcuts)) return;
     const auto in = Main.LinkView(current).In;
     MoveStep step;
     for (const int link : LinksWith(Main, current))

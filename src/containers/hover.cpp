@@ -6,6 +6,7 @@
 #include "containers/shrink.h"
 #include "core/handlers.h"
 #include "core/objects.h"
+#include "dock/sliding.h"
 #include "platform/clock.h"
 
 #include <cmath>
@@ -77,9 +78,11 @@ void WaitOrExpand(frmMain& Main, int Index) {
     StopHover(Main);
 }
 
-// False while the same click or gesture goes on; it is asked again at the next move.
+// False while the same click or gesture goes on, or the strip about what is selected in it is pointed at; it
+// is asked again at the next move.
 bool MayCloseLeft(const frmMain& Main, int Index) {
-    return !HandIsBusy(Main) && !Main.Group.HoldExpanded && !IsTypedInto(Main, Index);
+    return !HandIsBusy(Main) && !Main.Group.HoldExpanded && !IsTypedInto(Main, Index) &&
+           !CursorOverWindow(Main, MiniToolbarWindow);
 }
 
 void CloseNow(frmMain& Main, int Index) {

@@ -77,7 +77,7 @@ Size NextAutoSize(Size now) {
 }
 
 void AutoResizeContainer(frmMain& Main, int Index) {
-    if (!CanResize(Main, Index)) return;
+    if (!CanResize(Main, Index) || !NeedsEdit(Main, Edit::Containers)) return;
     const auto& place = Main.ConView(Index).Container.Place;
     ApplySize(Main, Index, NextAutoSize({place.Width, place.Height}));
     KeepMarkInSight(Main, Index);
@@ -85,8 +85,8 @@ void AutoResizeContainer(frmMain& Main, int Index) {
 }
 
 void ResizeSymbol_MouseDown(frmMain& Main, int Index, const MouseEvent& event) {
-    if (!CanResize(Main, Index)) return;
     if (event.Button != MouseButton::Left) return AutoResizeContainer(Main, Index);
+    if (!CanResize(Main, Index) || !NeedsEdit(Main, Edit::Containers)) return;
     RememberPresentSize(Main, Index); // what Escape goes back to
     const auto& place = Main.ConView(Index).Container.Place;
     Main.Group.ResizingContainer = Index;
@@ -117,7 +117,7 @@ void CancelResize(frmMain& Main) {
 
 void ResizeContainersByKey(frmMain& Main, float x, float y) {
     const auto chosen = ResizedByKey(Main);
-    if (chosen.empty()) return;
+    if (chosen.empty() || !NeedsEdit(Main, Edit::Containers)) return;
     for (const int index : chosen) {
         const auto& place = Main.ConView(index).Container.Place;
         ApplySize(Main, index, Possible(Main, index, {place.Width + x, place.Height + y}));

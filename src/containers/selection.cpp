@@ -4,6 +4,7 @@
 #include "containers/layout.h"
 #include "core/caption.h"
 #include "core/objects.h"
+#include "dock/mini_toolbar.h"
 #include "shortcuts/create.h"
 
 #include <algorithm>
@@ -37,11 +38,13 @@ void Unselect(frmMain& Main, int Shortcut) {
     MarkParent(Main, Main.LinkView(Shortcut).In);
 }
 
-// The title row tells how many are selected, unless it tells something else just now.
+// The title row tells how many are selected, unless it tells something else just now. The strip comes and
+// goes with them.
 template <class Change> void ChangeWithTitle(frmMain& Main, const Change& change) {
     const bool normal = Main.View.Caption == NormalCaption(Main);
     change();
     if (normal) SetCaption(Main, NormalCaption(Main));
+    FollowSelection(Main);
 }
 
 void FlagContainer(frmMain& Main, int Index, bool Selected) {

@@ -11,6 +11,7 @@
 #include "containers/near_edge.h"
 #include "core/objects.h"
 #include "core/tr.h"
+#include "dock/mini_toolbar.h"
 #include "platform/clock.h"
 
 #include <algorithm>
@@ -175,6 +176,7 @@ void ExpandShrinkContainer(frmMain& Main, int Index, bool UseEffect) {
     if (!shrunk && Main.Group.JustExpanded && !Main.IsLoading && !Main.IsExiting) return;
     HideTip(Main);
     EndEffect(Main);
+    CloseMiniToolbar(Main); // what it stands beside comes or goes
     Main.Group.CurrentContainer = Index;
     shrunk ? Expand(Main, Index, UseEffect) : Shrink(Main, Index, UseEffect);
     Main.Marks.Container(Index);

@@ -26,19 +26,21 @@ Rect ButtonPlace(float left) {
             ButtonEdge};
 }
 
+// The caption ends before the leftmost button that shows.
 void LayTitle(WorkspaceView& view, bool locked) {
     using namespace measures;
     const float width = view.picBack.Place.Width;
+    const float narrower = CaptionNarrower + (view.ImgLock.Visible ? ButtonStep : 0);
     view.picMoveMe.Place = {0, 0, width, TitleHeight};
-    view.lblCaption.Place = {CaptionLeft, TitleContentTop, AtLeastZero(width - CaptionNarrower),
+    view.lblCaption.Place = {CaptionLeft, TitleContentTop, AtLeastZero(width - narrower),
                              TitleHeight - TitleContentTop};
     const float dock = width - DockFromRight;
     view.PicDock.Place = ButtonPlace(dock);
-    view.PicDock.Visible = false; // docking by hand is not built
     view.PicLockToolbar.Place = view.PicUnLockToolbar.Place = ButtonPlace(dock - ButtonStep);
     view.PicLockToolbar.Visible = locked;
     view.PicUnLockToolbar.Visible = !locked;
     view.PicMenu.Place = ButtonPlace(dock - 2 * ButtonStep);
+    view.ImgLock.Place = ButtonPlace(dock - 3 * ButtonStep);
 }
 
 // The frame of grouped shortcuts, in the middle and clear of the title.

@@ -3,6 +3,7 @@
 #include "core/element_walk.h"
 #include "core/keyboard_focus.h"
 #include "core/tr.h"
+#include "dock/dock_commands.h"
 #include "notes/notes.h"
 
 #include <array>
@@ -13,7 +14,8 @@ namespace {
 constexpr auto untold = std::to_array<ElementKind>(
     {ElementKind::None, ElementKind::picBack, ElementKind::picMoveMe, ElementKind::Container,
      ElementKind::ContainerFrame, ElementKind::picShortcut, ElementKind::PicContainer, ElementKind::PicImage,
-     ElementKind::frmSelection, ElementKind::frmExplode});
+     ElementKind::frmSelection, ElementKind::frmExplode, ElementKind::frmMiniDock,
+     ElementKind::picMiniToolbar});
 
 bool IsTold(ElementKind kind) {
     return std::ranges::find(untold, kind) == untold.end();
@@ -29,6 +31,8 @@ ElementId Told(ElementId id) {
 ElementId GroundOf(const frmMain& Main, SurfaceId surface) {
     if (surface.Kind == SurfaceKind::Workspace) return {ElementKind::picBack, -1};
     if (surface.Kind == SurfaceKind::Picture) return {ElementKind::PicImage, surface.Index};
+    if (surface.Kind == SurfaceKind::MiniDock) return {ElementKind::frmMiniDock, -1};
+    if (surface.Kind == SurfaceKind::MiniToolbar) return {ElementKind::picMiniToolbar, -1};
     const bool tile = surface.Kind == SurfaceKind::Container && IsShrunk(Main, surface.Index);
     return {tile ? ElementKind::ContainerIcon : ElementKind::ContainerLabel, surface.Index};
 }
@@ -41,11 +45,16 @@ SurfaceId SurfaceOf(const Parent& in) {
 bool IsLiveSurface(const frmMain& Main, SurfaceId surface) {
     if (surface.Kind == SurfaceKind::Container) return IsLive(Main.Containers, surface.Index);
     if (surface.Kind == SurfaceKind::Picture) return IsLive(Main.Pictures, surface.Index);
-    return true;
+    if (surface.Kind == SurfaceKind::MiniDock) return Main.Dock.MiniDock.Loaded;
+    return surface.Kind != SurfaceKind::MiniToolbar || Main.Dock.MiniToolbar.Loaded;
 }
 
 bool IsShortcut(ElementId element) {
     return element.Kind == ElementKind::lblShortcut;
+}
+
+bool IsOfStrip(ElementId element) {
+    return element.Kind == ElementKind::MiniToolbarButton || element.Kind == ElementKind::PicLinkColor;
 }
 
 bool HasMenu(ElementId element) {
@@ -82,7 +91,11 @@ void AddPress(const frmMain& Main, const Spot& spot, std::vector<Deed>& deeds) {
     if (!info.Action.empty()) deeds.push_back({info.Action, info.Id});
 }
 
+// The bar has no keyboard and shows no menu: all it does is to call the workspace.
 std::vector<Deed> DeedsOfSurface(const frmMain& Main, SurfaceId surface) {
+    if (surface.Kind == SurfaceKind::MiniDock)
+        return {{Tr(Main, "Bring Out"), {ElementKind::frmMiniDock, -1}}};
+    if (surface.Kind == SurfaceKind::MiniToolbar) return {};
     std::vector<Deed> deeds;
     WalkElements(Main, surface, [&](const Spot& spot) {
         if (surface.Kind == SurfaceKind::Container && SpeaksForContainer(spot.Id.Kind))
@@ -154,6 +167,7 @@ std::optional<ToldPlace> PlaceOfTold(const frmMain& Main, SurfaceId surface, Ele
 
 bool LiesOn(const frmMain& Main, SurfaceId surface, ElementId element) {
     if (!IsLiveSurface(Main, surface)) return false;
+    if (surface.Kind == SurfaceKind::MiniToolbar && IsOfStrip(element)) return true;
     if (!IsShortcut(element)) return element.Kind == ElementKind::None || element.Index == surface.Index;
     return IsLive(Main.Shortcuts, element.Index) && SurfaceOf(Main.LinkView(element.Index).In) == surface;
 }
@@ -179,6 +193,7 @@ bool DoAction(frmMain& Main, SurfaceId surface, ElementId element, std::string_v
     const auto deeds = DeedsOf(Main, surface, element);
     const auto deed = std::ranges::find(deeds, action, &Deed::Name);
     if (deed == deeds.end()) return false;
+    if (surface.Kind == SurfaceKind::MiniDock) return BringOut(Main, true), true;
     if (deed->Pressed.Kind != ElementKind::None) return ActivateElement(Main, surface, deed->Pressed);
     return ShowMenu(Main, surface, element);
 }

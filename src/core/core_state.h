@@ -42,6 +42,7 @@ struct WorkspaceView {
     std::string Caption;
     quill::Color CaptionForeColor = 0xFFFFFF;
     Element PicDock, PicLockToolbar, PicUnLockToolbar, PicMenu; // in picMoveMe
+    Element ImgLock{{}, false};        // in picMoveMe; shown for a moment when a brief unlock is over
     Element FrameLinkGroup{{}, false}; // on picBack, below the title; sized by what it shows
     bool TitleActive = true;
     std::string WallpaperFile;            // resolved; empty = none

@@ -21,6 +21,7 @@ constexpr Words table[] = {
     {ElementKind::PicDock, Role::Button, "Dock", "Dock", "Dock"},
     {ElementKind::PicLockToolbar, Role::Button, "Unlock", "Unlock", "Unlock"},
     {ElementKind::PicUnLockToolbar, Role::Button, "Lock", "Lock", "Lock"},
+    {ElementKind::ImgLock, Role::Button, "Briefly Unlock", "Briefly Unlock", "Briefly Unlock"},
     {ElementKind::Container, Role::Pane, "", "", ""},
     {ElementKind::ContainerFrame, Role::Pane, "", "", ""},
     {ElementKind::ContainerLabel, Role::Title, "", "Fold", ""},
@@ -43,6 +44,9 @@ constexpr Words table[] = {
     {ElementKind::PictureGrip, Role::Grip, "Resize", "", ""},
     {ElementKind::frmSelection, Role::Mark, "Selection", "", ""},
     {ElementKind::frmExplode, Role::Mark, "Effect", "", ""},
+    {ElementKind::picMiniToolbar, Role::Pane, "Selected Shortcuts", "", ""},
+    {ElementKind::MiniToolbarButton, Role::Button, "", "", ""},
+    {ElementKind::PicLinkColor, Role::Button, "Font Color", "", ""},
 };
 
 const Words* WordsOf(ElementKind kind) {
@@ -114,6 +118,14 @@ void DescribeCaption(const frmMain& Main, ElementInfo& info) {
     if (Main.Dock.Maximized) info.Action = Tr(Main, "Restore");
 }
 
+// What the lock holds does nothing.
+void DescribeMiniToolbarCell(const frmMain& Main, ElementInfo& info) {
+    const int cell = info.Id.Kind == ElementKind::PicLinkColor ? MiniToolbarButtons : info.Id.Index;
+    info.Tip = TipOfMiniToolbarCell(Main, cell);
+    if (info.Name.empty()) info.Name = info.Tip;
+    if (MiniToolbarCellWorks(Main, cell)) info.Action = info.Name;
+}
+
 std::string Translated(const frmMain& Main, std::string_view english) {
     return english.empty() ? std::string() : Tr(Main, english);
 }
@@ -139,6 +151,8 @@ ElementInfo DescribeElement(const frmMain& Main, const Spot& spot) {
         DescribeLink(Main, info);
     else if (spot.Id.Kind == ElementKind::PicContainer || spot.Id.Kind == ElementKind::PicImage)
         DescribePicture(Main, info);
+    else if (spot.Id.Kind == ElementKind::MiniToolbarButton || spot.Id.Kind == ElementKind::PicLinkColor)
+        DescribeMiniToolbarCell(Main, info);
     return info;
 }
 

@@ -8,6 +8,7 @@
 #include "core/frmMain.h"
 #include "core/objects.h"
 #include "core/surfaces.h"
+#include "dock/mini_toolbar.h"
 
 #include <algorithm>
 
@@ -73,7 +74,8 @@ template <class Visit> bool Title(const frmMain& Main, Visit& visit) {
         return !element.Visible || Show(visit, kind, -1, Moved(element.Place, x, y));
     };
     return Show(visit, ElementKind::picMoveMe, -1, view.picMoveMe) &&
-           inTitle(ElementKind::lblCaption, view.lblCaption) && inTitle(ElementKind::PicMenu, view.PicMenu) &&
+           inTitle(ElementKind::lblCaption, view.lblCaption) && inTitle(ElementKind::ImgLock, view.ImgLock) &&
+           inTitle(ElementKind::PicMenu, view.PicMenu) &&
            inTitle(ElementKind::PicLockToolbar, view.PicLockToolbar) &&
            inTitle(ElementKind::PicUnLockToolbar, view.PicUnLockToolbar) &&
            inTitle(ElementKind::PicDock, view.PicDock);
@@ -163,6 +165,19 @@ template <class Visit> bool Overlay(const frmMain& Main, Visit& visit) {
            (!band.Loaded || Show(visit, ElementKind::frmSelection, -1, here(band.Place)));
 }
 
+template <class Visit> bool MiniDock(const frmMain& Main, Visit& visit) {
+    const auto& place = Main.Dock.MiniDock.Place;
+    return Show(visit, ElementKind::frmMiniDock, -1, Rect{0, 0, place.Width, place.Height});
+}
+
+template <class Visit> bool MiniToolbar(const frmMain& Main, Visit& visit) {
+    const auto& strip = Main.Dock.MiniToolbar.Place;
+    if (!Show(visit, ElementKind::picMiniToolbar, -1, Rect{0, 0, strip.Width, strip.Height})) return false;
+    for (int cell = 0; cell < MiniToolbarButtons; ++cell)
+        if (!Show(visit, ElementKind::MiniToolbarButton, cell, PlaceOfMiniToolbarCell(cell))) return false;
+    return Show(visit, ElementKind::PicLinkColor, -1, PlaceOfMiniToolbarCell(MiniToolbarButtons));
+}
+
 } // namespace walk
 
 // Visits every visible element on a surface; false when the visitor ended the walk.
@@ -176,6 +191,10 @@ template <class Visit> bool WalkElements(const frmMain& Main, SurfaceId surface,
         return !IsLive(Main.Pictures, surface.Index) || walk::Picture(Main, surface.Index, visit);
     case SurfaceKind::Overlay:
         return walk::Overlay(Main, visit);
+    case SurfaceKind::MiniDock:
+        return walk::MiniDock(Main, visit);
+    case SurfaceKind::MiniToolbar:
+        return walk::MiniToolbar(Main, visit);
     }
     return true;
 }

@@ -35,8 +35,13 @@ constexpr auto names = std::to_array<std::string_view>({
     "PictureGrip",
     "frmSelection",
     "frmExplode",
+    "ImgLock",
+    "frmMiniDock",
+    "picMiniToolbar",
+    "MiniToolbarButton",
+    "PicLinkColor",
 });
-static_assert(names.size() == static_cast<std::size_t>(ElementKind::frmExplode) + 1);
+static_assert(names.size() == static_cast<std::size_t>(ElementKind::PicLinkColor) + 1);
 
 bool FrameIsOpen(const frmMain& Main, int container) {
     if (!IsLive(Main.Containers, container)) return false;
@@ -102,6 +107,10 @@ Rect PlaceOfSurface(const frmMain& Main, SurfaceId surface) {
         return IsLive(Main.Pictures, surface.Index) ? PlaceOfPicture(Main, surface.Index) : Rect{};
     case SurfaceKind::Overlay:
         return walk::OverlayPlace(Main);
+    case SurfaceKind::MiniDock:
+        return Main.Dock.MiniDock.Place;
+    case SurfaceKind::MiniToolbar:
+        return Main.Dock.MiniToolbar.Place;
     }
     return {};
 }
@@ -116,6 +125,10 @@ bool SurfaceVisible(const frmMain& Main, SurfaceId surface) {
         return PictureVisible(Main, surface.Index);
     case SurfaceKind::Overlay:
         return Main.Group.frmSelection.Loaded || Main.Looks.frmExplode.Loaded;
+    case SurfaceKind::MiniDock:
+        return Main.Dock.MiniDock.Visible;
+    case SurfaceKind::MiniToolbar:
+        return Main.Dock.MiniToolbar.Loaded;
     }
     return false;
 }

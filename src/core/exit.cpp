@@ -10,6 +10,10 @@
 #include "core/frmMain.h"
 #include "core/tr.h"
 #include "dock/docking.h"
+#include "dock/hotkey.h"
+#include "dock/mini_dock.h"
+#include "dock/mini_toolbar.h"
+#include "dock/tray_icon.h"
 #include "persistence/load.h"
 #include "persistence/save.h"
 #include "platform/clock.h"
@@ -19,6 +23,7 @@
 #include "platform/session.h"
 #include "platform/shell.h"
 #include "platform/windows.h"
+#include "system/system_info.h"
 
 namespace quill {
 namespace {
@@ -30,7 +35,8 @@ int Ask(frmMain& Main, const std::string& text, int flags, const std::string& ti
 
 void StopTimers(frmMain& Main) {
     for (const auto name : {TimerName::TimerDontShrink, TimerName::TimerDblClickLabelDelay,
-                            TimerName::TimerSaveNotes, TimerName::TimerRestoreCaption}) {
+                            TimerName::TimerSaveNotes, TimerName::TimerRestoreCaption, TimerName::TimerHide,
+                            TimerName::TimerShowMiniDock, TimerName::TimerServices, TimerName::TimeLock}) {
         Main.P.Clock.Stop({name});
     }
 }
@@ -64,8 +70,13 @@ void UnloadMain(frmMain& Main) {
     EndEffect(Main); // what is animated does not shrink back
     CancelContainerDrag(Main);
     ShrinkBackContainer(Main, false);
-    SaveWorkspace(Main, false, true);
+    CloseMiniToolbar(Main);
+    ShellTrayRemove(Main);
+    SaveWorkspace(Main, false, true); // a docked workspace is told as out at its edge
     StopTimers(Main);
+    StopCPUMonitoring(Main);
+    UnregisterGlobalHotkey(Main);
+    UnloadMiniDock(Main);
     Main.P.Windows.Hide(MainWindow);
     Main.ZOrderList.clear();
     Main.P.Session.ProcessPending();

@@ -13,6 +13,7 @@
 #include "persistence/persistence_state.h"
 #include "platform/platform.h"
 #include "shortcuts/shortcuts_state.h"
+#include "system/system_state.h"
 
 #include <string>
 #include <vector>
@@ -56,6 +57,7 @@ struct frmMain {
     ContainersState Group; // the containers' room
     ShortcutsState Links;  // the shortcuts' room
     DockState Dock;
+    SystemState System;
     LooksState Looks;
     PersistenceState Store;
     quill::Marks Marks;

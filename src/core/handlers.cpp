@@ -15,13 +15,23 @@
 #include "core/keyboard_focus.h"
 #include "core/routes.h"
 #include "core/start.h"
+#include "dock/dock_commands.h"
 #include "dock/docking.h"
+#include "dock/foreground.h"
 #include "dock/frames.h"
+#include "dock/hotkey.h"
+#include "dock/mini_dock.h"
+#include "dock/mini_toolbar.h"
+#include "dock/sliding.h"
+#include "dock/tray_icon.h"
+#include "dock/workspace_lock.h"
 #include "notes/notes.h"
 #include "platform/session.h"
 #include "shortcuts/drags.h"
 #include "shortcuts/drop_target.h"
 #include "shortcuts/launch.h"
+#include "shortcuts/selected.h"
+#include "system/system_info.h"
 
 #include <algorithm>
 
@@ -48,6 +58,14 @@ void TimerDblClickLabelDelay_Timer(frmMain& Main) {
     Main.P.Clock.Stop({TimerName::TimerDblClickLabelDelay});
 }
 
+// What a start leaves until the first picture stands.
+void TimerServices_Timer(frmMain& Main) {
+    Main.P.Clock.Stop({TimerName::TimerServices});
+    ShowTrayIcon(Main, Main.Settings.ShowTrayIcon);
+    if (Main.Settings.SystemInfo) StartCPUMonitoring(Main);
+    StartGlobalHotkey(Main);
+}
+
 constexpr TimerRow timers[] = {
     {TimerName::TimerDontShrink, &TimerDontShrink_Timer},
     {TimerName::TimerDblClickLabelDelay, &TimerDblClickLabelDelay_Timer},
@@ -61,11 +79,20 @@ constexpr TimerRow timers[] = {
     {TimerName::TimerSaveNotes, &TimerSaveNotes_Timer},
     {TimerName::TimerRestoreCaption, &TimerRestoreCaption_Timer},
     {TimerName::TimerScrollOnDrag, &TimerScrollOnDrag_Timer},
+    {TimerName::TimerHide, &TimerHide_Timer},
+    {TimerName::TimerShowMiniDock, &TimerShowMiniDock_Timer},
+    {TimerName::TimerFlash, &TimerFlash_Timer},
+    {TimerName::TimerUnload, &TimerUnload_Timer},
+    {TimerName::TimerBrieflyUnlock, &TimerBrieflyUnlock_Timer},
+    {TimerName::TimeLock, &TimeLock_Timer},
+    {TimerName::TimerSysInfo, &TimerSysInfo_Timer},
+    {TimerName::TimerServices, &TimerServices_Timer},
 };
 
 // The mouse moves with no button held: tips, and what opens and closes by being pointed at.
 void Hover(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (surface.Kind == SurfaceKind::Picture) return Picture_MouseMove(Main, surface.Index);
+    if (surface.Kind == SurfaceKind::Workspace) Title_MouseMove(Main, event);
     if (surface.Kind != SurfaceKind::Container) return MouseElsewhere(Main);
     const auto hit = ElementAt(Main, surface, event.At);
     if (hit.Kind == ElementKind::ContainerLabel || hit.Kind == ElementKind::ContainerIcon)
@@ -93,6 +120,22 @@ bool CancelByOtherButton(frmMain& Main, const MouseEvent& event) {
     return true;
 }
 
+// What is dragged over the bar brings the workspace out, and is dropped there.
+DropAnswer DragOverBar(frmMain& Main, const DragEvent& event) {
+    MouseEvent mouse;
+    mouse.At = event.At, mouse.Screen = event.Screen;
+    mouse.Button = MouseButton::Left;
+    frmMiniDock_MouseMove(Main, mouse);
+    return DropAnswer::Refused;
+}
+
+// A pointer that comes back to the very place where it was last seen makes no move that anybody tells.
+void EnterBar(frmMain& Main) {
+    MouseEvent event;
+    event.Screen = Main.P.Windows.GetCursorPos();
+    if (Main.Dock.MiniDock.Visible) frmMiniDock_MouseMove(Main, event);
+}
+
 bool BeginResizeAt(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (surface.Kind != SurfaceKind::Workspace || event.Button != MouseButton::Left) return false;
     const int edges = GripEdgesAt(Main, event.At);
@@ -105,6 +148,7 @@ bool BeginResizeAt(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
 
 void MouseDown(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return;
+    if (surface.Kind == SurfaceKind::MiniDock) return frmMiniDock_MouseMove(Main, event);
     HideFocus(Main);
     HideTip(Main);
     if (CancelByOtherButton(Main, event)) return;
@@ -131,6 +175,8 @@ void MouseUp(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     const bool same = pressed.Kind != ElementKind::None && SameElement(Main, surface, event);
     Main.View.Pressed = {};
     if (!same) return;
+    if (IsShortcut(pressed.Kind) && event.Button == MouseButton::Middle)
+        return lblShortcut_MiddleUp(Main, pressed.Index);
     if (IsShortcut(pressed.Kind)) return lblShortcut_MouseUp(Main, pressed.Index, event);
     const auto* route = RouteOf(pressed.Kind);
     if (route && route->Click && event.Button == MouseButton::Left) route->Click(Main, pressed.Index, event);
@@ -152,6 +198,9 @@ void MouseDoubleClick(frmMain& Main, SurfaceId surface, const MouseEvent& event)
 
 void MouseMove(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return;
+    if (surface.Kind == SurfaceKind::MiniDock) return frmMiniDock_MouseMove(Main, event);
+    if (surface.Kind == SurfaceKind::MiniToolbar) return picMiniToolbar_MouseMove(Main, event);
+    Main.Dock.PointerAway = false;
     if (Main.Group.ScrollingContainer != -1) return VScroll_MouseMove(Main, event);
     if (Main.Group.ResizingContainer != -1) return ResizeSymbol_MouseMove(Main, event);
     if (Main.Group.Drag.Pressed != -1) return ContainerDrag_MouseMove(Main, event);
@@ -162,6 +211,7 @@ void MouseMove(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
 
 void MouseLeave(frmMain& Main, SurfaceId surface) {
     if (Main.IsLoading || Main.IsExiting) return;
+    if (surface.Kind == SurfaceKind::MiniToolbar) return picMiniToolbar_MouseLeave(Main);
     if (surface.Kind != SurfaceKind::Container) return MouseElsewhere(Main);
     Tip_MouseLeave(Main, surface.Index);
     Container_MouseLeave(Main, surface.Index);
@@ -169,6 +219,8 @@ void MouseLeave(frmMain& Main, SurfaceId surface) {
 
 DropAnswer DragOver(frmMain& Main, SurfaceId surface, const DragEvent& event, const DragData& data) {
     if (Main.IsLoading || Main.IsExiting) return DropAnswer::Refused;
+    if (surface.Kind == SurfaceKind::MiniDock) return DragOverBar(Main, event);
+    Main.Dock.PointerAway = false;
     return DragOverSurface(Main, surface, event, data);
 }
 
@@ -204,33 +256,46 @@ void Form_Moved(frmMain& Main, const Rect& place) {
     if (sized) ResizeForm(Main);
 }
 
+// Without an entry in the taskbar nobody could get a minimised window back but by the ways to a hidden one.
 void Form_StateChanged(frmMain& Main, WindowState state) {
     Main.View.State = state;
+    if (state != WindowState::Minimized || Main.Settings.ShowInTaskbar || Main.IsLoading) return;
+    HideMain(Main);
 }
 void Form_Closing(frmMain& Main) {
     mnuExitMainWin_Click(Main);
 }
 
-void Screen_Changed(frmMain& Main) {
+void Form_MouseEnter(frmMain& Main, WindowId window) {
     if (Main.IsLoading || Main.IsExiting) return;
-    if (Main.Dock.Maximized)
-        PlaceMain(Main, WorkAreaOf(Main, Main.View.Window));
-    else if (Main.Dock.DockPosition == 0)
-        BringIntoView(Main);
+    if (window == MainWindow) Main.Dock.PointerAway = false;
+    if (window == MiniDockWindow) EnterBar(Main);
 }
 
-// A second start only ever brings out; so does the toggle for as long as nothing docks.
-void SecondStart(frmMain& Main, Summons) {
+void Form_MouseLeave(frmMain& Main, WindowId window) {
+    if (window == MainWindow) Main.Dock.PointerAway = true;
+    if (window == MiniDockWindow) Main.Dock.MiniDock.PointerAway = true;
+}
+
+void Foreground_Changed(frmMain& Main) {
+    if (!Main.IsLoading && !Main.IsExiting) TitleBarFollowFocus(Main);
+}
+
+void Hotkey_Pressed(frmMain& Main) {
+    if (!Main.Dock.JustUsedHotKey) ToggleWorkspace(Main);
+}
+
+void Screen_Changed(frmMain& Main) {
+    if (!Main.IsLoading && !Main.IsExiting) FollowScreens(Main);
+}
+
+// A plain second start only ever brings out.
+void SecondStart(frmMain& Main, Summons word) {
     if (Main.IsExiting) return;
-    Main.Dock.Hidden = false;
-    Main.View.Visible = true;
-    if (Main.View.State == WindowState::Minimized) {
-        Main.View.State = WindowState::Normal;
-        Main.P.Windows.SetState(MainWindow, WindowState::Normal);
-    }
-    Main.P.Windows.Show(MainWindow, Activate::Yes);
-    SetWindowOnTop(Main);
-    Main.P.Windows.SetForegroundWindow(MainWindow);
+    if (word == Summons::Toggle)
+        ToggleWorkspace(Main);
+    else
+        CallForward(Main);
 }
 
 void SessionEnd(frmMain& Main) {

@@ -7,9 +7,11 @@
 #include "platform/clock.h"
 #include "platform/drags.h"
 #include "platform/instance.h"
+#include "platform/questions.h"
 #include "platform/windows.h"
 
 #include <string>
+#include <vector>
 
 namespace quill {
 
@@ -80,8 +82,16 @@ void ContainerNote_LostFocus(frmMain& Main, int Index);
 
 void Form_Moved(frmMain& Main, const Rect& place); // frmMain stands there now, whoever put it there
 void Form_StateChanged(frmMain& Main, WindowState state);
-void Form_Closing(frmMain& Main);   // the desktop asks the window to close
-void Screen_Changed(frmMain& Main); // monitors or work areas differ
+void Form_Closing(frmMain& Main); // the desktop asks the window to close
+// The pointer has come over a window of ours, or has left it. Some sessions tell of nothing else.
+void Form_MouseEnter(frmMain& Main, WindowId window);
+void Form_MouseLeave(frmMain& Main, WindowId window);
+void Foreground_Changed(frmMain& Main); // another window of the desktop has the keyboard, or none
+void Hotkey_Pressed(frmMain& Main);
+void PicTray_MouseUp(frmMain& Main, MouseButton button);
+std::vector<MenuLine> TrayMenu_Lines(frmMain& Main); // asked for each time before the menu shows
+void TrayMenu_Click(frmMain& Main, int id);          // of a line of the last answer
+void Screen_Changed(frmMain& Main);                  // monitors or work areas differ
 void SecondStart(frmMain& Main, Summons word);
 void SessionEnd(frmMain& Main); // signal or session manager: save and end, ask nothing
 

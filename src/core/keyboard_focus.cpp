@@ -14,8 +14,10 @@
 #include "core/menus.h"
 #include "core/objects.h"
 #include "core/routes.h"
+#include "dock/dock_commands.h"
 #include "dock/docking.h"
 #include "shortcuts/launch.h"
+#include "shortcuts/selected.h"
 
 #include <algorithm>
 
@@ -198,6 +200,13 @@ bool PressButton(frmMain& Main) {
     const auto focused = FocusedElement(Main);
     return focused && focused->Role == Role::Button && ActivateFocus(Main);
 }
+// Without Shift only what is plainly meant: the current shortcut is one of those that go.
+bool DeleteWithCurrent(frmMain& Main) {
+    const int current = Main.Links.CurrentShortcut;
+    if (!IsLive(Main.Shortcuts, current) || !Main.Link(current).Selected) return false;
+    DeleteSelectedShortcuts(Main);
+    return true;
+}
 
 constexpr int keyPlus = 187, keyMinus = 189;
 
@@ -230,6 +239,7 @@ constexpr KeyRow keys[] = {
     {KeySpace, Shift, nullptr, "mnuFlipBackward"},
     {KeyEscape, Plain, &CancelHand, {}},
     {KeyEscape, Plain, nullptr, "mnuConUnselectAll"},
+    {KeyEscape, Plain, &CollapseByKey, {}},
     {KeyEscape, Plain, &BackToRest, {}},
     {KeyMenu, Plain, &PopupForFocus, {}},
     {KeyF10, Shift, &PopupForFocus, {}},
@@ -248,6 +258,11 @@ constexpr KeyRow keys[] = {
     {keyPlus, Ctrl | Shift, nullptr, "MakeIconsLarger"}, // where "+" is typed with Shift
     {keyMinus, Ctrl, nullptr, "MakeIconsSmaller"},
     {'Z', Alt, nullptr, "MakeIconsSizeDifferent"},
+    {'B', Ctrl, nullptr, "ToggleBoldFont"},
+    {'C', Alt | Shift, nullptr, "mnuChooseColor"},
+    {'R', Alt, nullptr, "mnuStartSelected"},
+    {KeyDelete, Shift, nullptr, "DeleteSelectedShortcuts"},
+    {KeyDelete, Plain, &DeleteWithCurrent, {}},
     {KeyF1 + 4, Shift, nullptr, "mnuRefresh"},
 
     {'N', Ctrl, nullptr, "mnuNewNote"},
@@ -255,6 +270,14 @@ constexpr KeyRow keys[] = {
     {KeyF1 + 7, Plain, nullptr, "mnuSave"},
     {KeyF1 + 7, Ctrl, nullptr, "mnuBackup"},
     {'L', Ctrl, nullptr, "mnuLock"},
+    {KeyUp, Alt, nullptr, "mnuDockPos(0)"},
+    {KeyLeft, Alt, nullptr, "mnuDockPos(1)"},
+    {KeyRight, Alt, nullptr, "mnuDockPos(2)"},
+    {KeyDown, Alt, nullptr, "mnuDockPos(3)"},
+    {'C', Alt, nullptr, "mnuCenterWorkspace"},
+    {'U', Ctrl | Shift, nullptr, "mnuSuspendSlideOut"},
+    {'H', Ctrl | Shift, nullptr, "mnuHideAlterDesk"},
+    {KeyF1 + 2, Plain, nullptr, "mnuProgramSettings"},
     {'T', Ctrl | Shift, nullptr, "mnuOnTop"},
     {'L', Ctrl | Shift, nullptr, "mnuPreventWindowMovement"},
     {KeyF1 + 10, Plain, nullptr, "mnuMaximize"},
@@ -429,8 +452,10 @@ std::span<const KeyRow> KeyTable() {
     return keys;
 }
 
+// A key that comes just behind the one that put the workspace away is not for it any more.
 bool Form_KeyDown(frmMain& Main, const KeyEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return false;
+    if (Main.Dock.Hidden || Main.Dock.DockPosition != 0) return false;
     HideTip(Main);
     if (BelongsToField(event)) return false;
     // What a hand is carrying is not changed behind its back.

@@ -15,13 +15,15 @@ struct MarkSet {
     bool Splash = false;         // the splash's progress text
     bool Overlay = false;        // what lies over everything: its place and its picture
     bool Tip = false;            // frmTip: its text
+    bool MiniDock = false;       // frmMiniDock: its colour
+    bool MiniToolbar = false;    // frmMiniToolbar: what it shows
     std::vector<int> Containers; // place, visibility and content; may hold an index twice
     std::vector<int> Pictures;
     int EditNote = -1;      // the note box of this container is to take the keyboard; -1: none
     std::vector<int> Notes; // text or looks of the note box
     bool Empty() const {
-        return !Everything && !Workspace && !Stacking && !Splash && !Overlay && !Tip && EditNote == -1 &&
-               Containers.empty() && Pictures.empty() && Notes.empty();
+        return !Everything && !Workspace && !Stacking && !Splash && !Overlay && !Tip && !MiniDock &&
+               !MiniToolbar && EditNote == -1 && Containers.empty() && Pictures.empty() && Notes.empty();
     }
 };
 
@@ -33,6 +35,8 @@ public:
     void Splash() { pending_.Splash = true, Added(); }
     void Overlay() { pending_.Overlay = true, Added(); }
     void Tip() { pending_.Tip = true, Added(); }
+    void MiniDock() { pending_.MiniDock = true, Added(); }
+    void MiniToolbar() { pending_.MiniToolbar = true, Added(); }
     void Container(int index) { pending_.Containers.push_back(index), Added(); }
     void Picture(int index) { pending_.Pictures.push_back(index), Added(); }
     void EditNote(int index) { pending_.EditNote = index, Added(); }

@@ -59,10 +59,10 @@ bool HasOthersSelected(const frmMain& Main) {
     return false;
 }
 
-bool MayAlign(const frmMain& Main) {
+bool MayMoveOthers(const frmMain& Main) {
     return HasOthersSelected(Main) && MayMoveContainers(Main);
 }
-bool MaySpace(const frmMain& Main) {
+bool MayMoveThese(const frmMain& Main) {
     return HasContainer(Main) && MayMoveContainers(Main);
 }
 bool MaySetSpacing(const frmMain& Main) {
@@ -90,10 +90,10 @@ template <auto Command> void InContainerOnly(frmMain& Main) {
 }
 
 constexpr MenuEntry arrangeLines[] = {
-    {"mnuAlignContainers(0)", "Align &Top", "Alt+T", &Item<&mnuAlignContainers_Click, 0>, &MayAlign},
-    {"mnuAlignContainers(1)", "Align &Left", "Alt+L", &Item<&mnuAlignContainers_Click, 1>, &MayAlign},
+    {"mnuAlignContainers(0)", "Align &Top", "Alt+T", &Item<&mnuAlignContainers_Click, 0>, &MayMoveOthers},
+    {"mnuAlignContainers(1)", "Align &Left", "Alt+L", &Item<&mnuAlignContainers_Click, 1>, &MayMoveOthers},
     {"mnuAlignContainers(2)", "&Horizontal Space Evenly", "Alt+E", &Item<&mnuAlignContainers_Click, 2>,
-     &MaySpace},
+     &MayMoveThese},
     MenuSeparator,
     {"mnuLineSpacing", "Line &Spacing...", "Alt+P", &InContainerOnly<&mnuLineSpacing_Click>, &MaySetSpacing},
     {"mnuAlign", "Snap to &Grid", "Alt+G", &mnuAlign_Click, nullptr, &SnapsToGrid},
@@ -125,8 +125,8 @@ constexpr MenuEntry containerMenu[] = {
     {"mnuConExpand", "E&xpand", "Alt+X", &ToggleTile, nullptr, nullptr, &IsTile},
     {"mnuConKeepExpanded", "&Keep Expanded", "Alt+K", &mnuConKeepExpanded_Click, &ClosesByItself},
     MenuSeparator,
-    {"mnuConSwitchPlaces", "S&witch", "Alt+W", &mnuConSwitchPlaces_Click, &HasContainer},
-    {"mnuSetContainerSize", "Match &Size", "Alt+M", &mnuSetContainerSize_Click, &HasOthersSelected},
+    {"mnuConSwitchPlaces", "S&witch", "Alt+W", &mnuConSwitchPlaces_Click, &MayMoveThese},
+    {"mnuSetContainerSize", "Match &Size", "Alt+M", &mnuSetContainerSize_Click, &MayMoveOthers},
     {.Caption = "&Arrange", .Children = &ArrangeLines},
     {.Caption = "Shortcu&ts", .Children = &ShortcutLines},
     MenuSeparator,

@@ -4,6 +4,7 @@
 #include "containers/selection.h"
 #include "core/menu_tables.h"
 #include "shortcuts/launch.h"
+#include "shortcuts/selected.h"
 
 namespace quill {
 namespace {
@@ -15,11 +16,14 @@ int Link(const frmMain& Main) {
 void mnuStart_Click(frmMain& Main) {
     StartShortcut(Main, Link(Main), false, "", false, false);
 }
+void mnuStartSelected_Click(frmMain& Main) {
+    StartSelected(Main, false, false);
+}
 void mnuStartInBackground_Click(frmMain& Main) {
-    StartShortcut(Main, Link(Main), true, "", false, true);
+    StartSelected(Main, false, true);
 }
 void mnuStartAdmin_Click(frmMain& Main) {
-    StartShortcut(Main, Link(Main), false, "", true, false);
+    StartSelected(Main, true, false);
 }
 void mnuStartWithoutParameters_Click(frmMain& Main) {
     StartShortcut(Main, Link(Main), false, " ", false, false);
@@ -60,10 +64,13 @@ constexpr MenuEntry arrangeLines[] = {
     {"mnuSortShortcuts(1)", "Sort &Descending", "Alt+D", &Item<&mnuSortShortcuts_Click, 1>, &InSeveral},
 };
 
-constexpr MenuEntry textSizeLines[] = {
+constexpr MenuEntry textLines[] = {
     {"MakeIconsLarger", "&Larger", "Ctrl++", &OnSelection<&MakeIconsLarger_Click>, &MayChange},
     {"MakeIconsSmaller", "&Smaller", "Ctrl+-", &OnSelection<&MakeIconsSmaller_Click>, &MayChange},
     {"MakeIconsSizeDifferent", "&Other...", "Alt+Z", &OnSelection<&MakeIconsSizeDifferent_Click>, &MayChange},
+    MenuSeparator,
+    {"ToggleBoldFont", "&Bold", "Ctrl+B", &OnSelection<&ToggleBoldFont>, &MayChange},
+    {"mnuChooseColor", "&Color...", "Alt+Shift+C", &OnSelection<&mnuChooseColor_Click>, &MayChange},
 };
 
 MenuTable SelectLines() {
@@ -72,21 +79,26 @@ MenuTable SelectLines() {
 MenuTable ArrangeLines() {
     return arrangeLines;
 }
-MenuTable TextSizeLines() {
-    return textSizeLines;
+MenuTable TextLines() {
+    return textLines;
 }
 
 constexpr MenuEntry shortcutMenu[] = {
     {"mnuStart", "&Start", "Enter", &mnuStart_Click, &HasShortcut},
-    {"mnuStartInBackground", "Start in &Background", "Shift+Enter", &mnuStartInBackground_Click,
+    {"mnuStartSelected", "Sta&rt Selected", "Alt+R", &OnSelection<&mnuStartSelected_Click>, &HasShortcut},
+    {"mnuStartInBackground", "Start in &Background", "Shift+Enter", &OnSelection<&mnuStartInBackground_Click>,
      &HasShortcut},
-    {"mnuStartAdmin", "Run as &administrator", "Ctrl+Enter", &mnuStartAdmin_Click, &HasShortcut},
+    {"mnuStartAdmin", "Run as &administrator", "Ctrl+Enter", &OnSelection<&mnuStartAdmin_Click>,
+     &HasShortcut},
     {"mnuStartWithoutParameters", "&Override &Parameters Field", "Ctrl+Shift+Enter",
      &mnuStartWithoutParameters_Click, &HasShortcut},
     MenuSeparator,
     {.Caption = "S&elect", .Children = &SelectLines},
-    {.Caption = "A&rrange", .Children = &ArrangeLines},
-    {.Caption = "Text Si&ze", .Children = &TextSizeLines},
+    {.Caption = "Arran&ge", .Children = &ArrangeLines},
+    {.Caption = "Te&xt", .Children = &TextLines},
+    MenuSeparator,
+    {"DeleteSelectedShortcuts", "Remo&ve Shortcuts", "Shift+Delete", &OnSelection<&DeleteSelectedShortcuts>,
+     &MayChange},
 };
 
 } // namespace

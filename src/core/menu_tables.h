@@ -8,6 +8,7 @@ namespace quill {
 MenuTable WorkspaceMenu();
 MenuTable ContainerMenu();
 MenuTable ShortcutMenu();
+MenuTable TrayMenu();
 
 inline constexpr MenuEntry MenuSeparator{.Caption = "-"};
 

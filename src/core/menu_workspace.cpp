@@ -1,5 +1,6 @@
 // The workspace's menu. What its lines about shortcuts and spacing mean, the container with the keys or the
 // workspace itself, their routines decide.
+#include "appearance/settings_dialog.h"
 #include "containers/arrange.h"
 #include "containers/commands.h"
 #include "containers/flip.h"
@@ -11,10 +12,13 @@
 #include "core/objects.h"
 #include "core/start.h"
 #include "core/tr.h"
+#include "dock/dock_commands.h"
 #include "dock/docking.h"
+#include "dock/workspace_lock.h"
 #include "notes/notes.h"
 #include "persistence/backup.h"
 #include "persistence/save.h"
+#include "shortcuts/selected.h"
 
 #include <algorithm>
 
@@ -62,6 +66,10 @@ void mnuNewNote_Click(frmMain& Main) {
     if (NewNote(Main, "", Tr(Main, "Note"), false)) SaveContainers(Main, true);
 }
 
+void mnuStartSelected_Click(frmMain& Main) {
+    StartSelected(Main, false, false);
+}
+
 void mnuHelpItem_Click(frmMain& Main) {
     const DialogPause pause(Main);
     Main.P.Questions.MsgBox(CommandLineHelp(), BoxInformation, ProgramName);
@@ -99,6 +107,15 @@ bool IsOnTop(const frmMain& Main) {
 bool IsMovementLocked(const frmMain& Main) {
     return Main.Settings.PreventWindowMovement;
 }
+bool IsSuspended(const frmMain& Main) {
+    return Main.Dock.Suspended;
+}
+bool MayDock(const frmMain& Main) {
+    return !Main.Dock.Maximized;
+}
+void mnuProgramSettings_Click(frmMain& Main) {
+    ShowSettingsDialog(Main, SettingsPage::FrameGeneral);
+}
 bool IsMaximized(const frmMain& Main) {
     return Main.Dock.Maximized;
 }
@@ -112,6 +129,10 @@ constexpr MenuEntry shortcutLines[] = {
      &HasSelectedShortcuts},
     {"mnuSelectShortcuts(2)", "&Invert Selection", "Alt+I", &Item<&mnuSelectShortcuts_Click, 2>,
      &HasShortcuts},
+    MenuSeparator,
+    {"mnuStartSelected", "Sta&rt Selected", "Alt+R", &mnuStartSelected_Click, &HasSelectedShortcuts},
+    {"DeleteSelectedShortcuts", "Remo&ve Shortcuts", "Shift+Delete", &DeleteSelectedShortcuts,
+     &MayChangeSelected},
 };
 
 constexpr MenuEntry containerLines[] = {
@@ -132,12 +153,43 @@ constexpr MenuEntry arrangeLines[] = {
     {"mnuAlign", "&Snap to Grid", "Alt+G", &mnuAlign_Click, nullptr, &SnapsToGrid},
 };
 
-constexpr MenuEntry textSizeLines[] = {
+constexpr MenuEntry textLines[] = {
     {"MakeIconsLarger", "&Larger", "Ctrl++", &MakeIconsLarger_Click, &MayChangeSelected},
     {"MakeIconsSmaller", "&Smaller", "Ctrl+-", &MakeIconsSmaller_Click, &MayChangeSelected},
     {"MakeIconsSizeDifferent", "&Other...", "Alt+Z", &MakeIconsSizeDifferent_Click, &MayChangeSelected},
+    MenuSeparator,
+    {"ToggleBoldFont", "&Bold", "Ctrl+B", &ToggleBoldFont, &MayChangeSelected},
+    {"mnuChooseColor", "&Color...", "Alt+Shift+C", &mnuChooseColor_Click, &MayChangeSelected},
 };
 
+constexpr MenuEntry positionLines[] = {
+    {"mnuDockPos(0)", "&Top", "Alt+Up", &Item<&mnuDockPos_Click, 0>},
+    {"mnuDockPos(1)", "&Left", "Alt+Left", &Item<&mnuDockPos_Click, 1>},
+    {"mnuDockPos(2)", "&Right", "Alt+Right", &Item<&mnuDockPos_Click, 2>},
+    {"mnuDockPos(3)", "&Bottom", "Alt+Down", &Item<&mnuDockPos_Click, 3>},
+    MenuSeparator,
+    {"mnuCenterWorkspace", "&Center Workspace", "Alt+C", &mnuCenterWorkspace_Click},
+    {"mnuPreventWindowMovement", "Loc&k Position", "Ctrl+Shift+L", &mnuPreventWindowMovement_Click, nullptr,
+     &IsMovementLocked},
+};
+
+constexpr MenuEntry viewLines[] = {
+    {"mnuDockNow", "Collapse &Now", "Esc", &mnuDockNow_Click, &MayDock},
+    {"mnuSuspendSlideOut", "&Suspend Auto-Collapse", "Ctrl+Shift+U", &mnuSuspendSlideOut_Click, nullptr,
+     &IsSuspended},
+    {"mnuHideAlterDesk", "&Hide Workspace", "Ctrl+Shift+H", &mnuHideAlterDesk_Click},
+    MenuSeparator,
+    {"mnuMaximize", "Ma&ximize", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsNotMaximized},
+    {"mnuRestore", "Restor&e", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsMaximized},
+    {"mnuOnTop", "Keep &On Top", "Ctrl+Shift+T", &mnuOnTop_Click, nullptr, &IsOnTop},
+};
+
+MenuTable PositionLines() {
+    return positionLines;
+}
+MenuTable ViewLines() {
+    return viewLines;
+}
 MenuTable ShortcutLines() {
     return shortcutLines;
 }
@@ -147,8 +199,8 @@ MenuTable ContainerLines() {
 MenuTable ArrangeLines() {
     return arrangeLines;
 }
-MenuTable TextSizeLines() {
-    return textSizeLines;
+MenuTable TextLines() {
+    return textLines;
 }
 
 constexpr MenuEntry workspaceMenu[] = {
@@ -163,18 +215,16 @@ constexpr MenuEntry workspaceMenu[] = {
     {.Caption = "S&hortcuts", .Children = &ShortcutLines},
     {.Caption = "Cont&ainers", .Children = &ContainerLines},
     {.Caption = "Arran&ge", .Children = &ArrangeLines},
-    {.Caption = "Text Si&ze", .Children = &TextSizeLines},
+    {.Caption = "Te&xt", .Children = &TextLines},
     {"mnuRefresh", "Re&fresh", "Shift+F5", &RefreshLinksAndShrinkIcons},
     MenuSeparator,
     {"mnuSave", "&Save", "F8", &mnuSave_Click},
     {"mnuBackup", "&Backup", "Ctrl+F8", &mnuBackup_Click},
     MenuSeparator,
+    {.Caption = "&Position", .Children = &PositionLines},
+    {.Caption = "&View", .Children = &ViewLines},
     {"mnuLock", "Loc&k", "Ctrl+L", &mnuLock_Click, nullptr, &IsLocked},
-    {"mnuOnTop", "Keep &On Top", "Ctrl+Shift+T", &mnuOnTop_Click, nullptr, &IsOnTop},
-    {"mnuPreventWindowMovement", "Lock &Position", "Ctrl+Shift+L", &mnuPreventWindowMovement_Click, nullptr,
-     &IsMovementLocked},
-    {"mnuMaximize", "Ma&ximize", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsNotMaximized},
-    {"mnuRestore", "Restor&e", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsMaximized},
+    {"mnuProgramSettings", "S&ettings...", "F3", &mnuProgramSettings_Click},
     MenuSeparator,
     {"mnuIgnoreChanges", "&Ignore Changes", "Ctrl+Shift+F8", &RestartIgnoringChanges},
     {"mnuClearWorkspace", "Clear &Workspace", "Ctrl+Shift+F4", &mnuClearWorkspace_Click},

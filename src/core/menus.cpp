@@ -98,9 +98,15 @@ MenuTable TableOf(MenuName menu) {
         return ContainerMenu();
     case MenuName::Shortcut:
         return ShortcutMenu();
+    case MenuName::Tray:
+        return TrayMenu();
     default:
         return {};
     }
+}
+
+std::vector<MenuLine> LinesOfMenu(const frmMain& Main, MenuName menu, Offered& offered) {
+    return LinesOf(Main, TableOf(menu), offered);
 }
 
 void PopupMenu(frmMain& Main, MenuName menu, Point screen) {

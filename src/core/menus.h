@@ -44,5 +44,7 @@ struct FoundEntry {
 FoundEntry FindEntry(std::string_view name);
 const MenuEntry* EntryByName(std::string_view name);
 bool MayRun(const frmMain& Main, const MenuEntry& entry); // it shows and is enabled
+// The lines of a menu that the desktop itself shows; offered holds the entry of each id.
+std::vector<MenuLine> LinesOfMenu(const frmMain& Main, MenuName menu, std::vector<const MenuEntry*>& offered);
 
 } // namespace quill

@@ -8,7 +8,10 @@
 #include "core/frmMain.h"
 #include "core/menus.h"
 #include "core/objects.h"
+#include "dock/dock_commands.h"
 #include "dock/docking.h"
+#include "dock/mini_toolbar.h"
+#include "dock/workspace_lock.h"
 #include "notes/notes.h"
 #include "persistence/save.h"
 #include "platform/windows.h"
@@ -47,6 +50,12 @@ void ClickMenuButton(frmMain& Main, int, const MouseEvent&) {
     PopupMenu(Main, MenuName::Workspace,
               {view.Window.Left + view.picBack.Place.Left + view.picMoveMe.Place.Left + button.Left,
                view.Window.Top + view.picBack.Place.Top + view.picMoveMe.Place.Top + button.Bottom()});
+}
+void ClickDock(frmMain& Main, int, const MouseEvent&) {
+    mnuDockNow_Click(Main);
+}
+void ClickImgLock(frmMain& Main, int, const MouseEvent&) {
+    ImgLock_Click(Main);
 }
 void ClickLock(frmMain& Main, int, const MouseEvent&) {
     mnuLock_Click(Main);
@@ -120,11 +129,20 @@ void PressPicture(frmMain& Main, int Index, const MouseEvent& event) {
     if (event.Button == MouseButton::Right) PopupMenu(Main, MenuName::Workspace, event.Screen);
 }
 
+void ClickMiniToolbarButton(frmMain& Main, int Index, const MouseEvent&) {
+    MiniToolbarButton_Click(Main, Index);
+}
+void ClickLinkColor(frmMain& Main, int, const MouseEvent&) {
+    PicLinkColor_Click(Main);
+}
+
 constexpr Route routes[] = {
     {ElementKind::picBack, &PressBack, nullptr, nullptr},
     {ElementKind::picMoveMe, &PressTitle, nullptr, &DoubleClickTitle},
     {ElementKind::lblCaption, &PressTitle, nullptr, &DoubleClickTitle},
     {ElementKind::PicMenu, nullptr, &ClickMenuButton, nullptr},
+    {ElementKind::PicDock, nullptr, &ClickDock, nullptr},
+    {ElementKind::ImgLock, nullptr, &ClickImgLock, nullptr},
     {ElementKind::PicLockToolbar, nullptr, &ClickLock, nullptr},
     {ElementKind::PicUnLockToolbar, nullptr, &ClickLock, nullptr},
     {ElementKind::Container, PressTitleRow, nullptr, &DoubleClickEmptyPlace},
@@ -145,6 +163,8 @@ constexpr Route routes[] = {
     {ElementKind::picShortcut, &PressShortcut, nullptr, &DoubleClickShortcutIcon},
     {ElementKind::PicContainer, &PressPicture, nullptr, nullptr},
     {ElementKind::PicImage, &PressPicture, nullptr, nullptr},
+    {ElementKind::MiniToolbarButton, nullptr, &ClickMiniToolbarButton, nullptr},
+    {ElementKind::PicLinkColor, nullptr, &ClickLinkColor, nullptr},
 };
 
 } // namespace

@@ -3,12 +3,14 @@
 
 #include "appearance/wallpaper.h"
 #include "containers/layout.h"
+#include "core/caption.h"
 #include "core/frmMain.h"
 #include "core/splash.h"
 #include "core/tr.h"
 #include "dock/docking.h"
 #include "persistence/load.h"
 #include "persistence/save.h"
+#include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/places.h"
 #include "platform/windows.h"
@@ -18,6 +20,8 @@
 
 namespace quill {
 namespace {
+
+constexpr int heartbeat = 1000, afterFirstPicture = 50; // milliseconds
 
 bool IsTrue(const std::optional<std::string>& text) {
     return text && (*text == "1" || *text == "-1" || *text == "True");
@@ -135,6 +139,9 @@ void LoadSettings(frmMain& Main) {
 void PostLoad(frmMain& Main) {
     SetWindowOnTop(Main);
     Main.IsLoading = false;
+    Main.P.Clock.Start({TimerName::TimerHide}, heartbeat);
+    Main.P.Clock.Start({TimerName::TimerServices}, afterFirstPicture);
+    if (Main.Dock.Suspended) RestoreCaption(Main);
     if (Main.Store.SaveAfterLoad) SaveWorkspace(Main, true, false);
 }
 

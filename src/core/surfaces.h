@@ -15,8 +15,8 @@ namespace quill {
 struct frmMain;
 
 // The overlay lies over everything on picBack and lets the mouse through; it shows only while it has
-// something to show.
-enum class SurfaceKind { Workspace, Container, Picture, Overlay };
+// something to show. MiniDock and MiniToolbar are windows of their own beside the workspace.
+enum class SurfaceKind { Workspace, Container, Picture, Overlay, MiniDock, MiniToolbar };
 
 struct SurfaceId {
     SurfaceKind Kind = SurfaceKind::Workspace;
@@ -54,6 +54,11 @@ enum class ElementKind {
     PictureGrip,
     frmSelection,
     frmExplode,
+    ImgLock,
+    frmMiniDock,
+    picMiniToolbar,
+    MiniToolbarButton,
+    PicLinkColor,
 };
 
 struct ElementId {
@@ -88,10 +93,11 @@ ElementId ElementAt(const frmMain& Main, SurfaceId surface, Point at);
 
 std::string_view NameOf(ElementKind kind); // "lblFoldUnfold": object names on the screen and in tests
 
-// Surfaces in stacking order, the workspace first (the bottom), for the screen side and for tests.
+// Surfaces of the workspace's window in stacking order, the workspace first (the bottom), for the screen side
+// and for tests.
 std::vector<SurfaceId> Surfaces(const frmMain& Main);
 // Place of a surface relative to its parent surface: picBack for containers, the frame's container for
-// pictures in it.
+// pictures in it. Of one that is a window of its own: on the virtual desktop.
 Rect PlaceOfSurface(const frmMain& Main, SurfaceId surface);
 bool SurfaceVisible(const frmMain& Main, SurfaceId surface);
 

@@ -1,5 +1,4 @@
-// Docking as far as it stands: the helpers that place and show the window. The state machine that slides it
-// is listed under "not built yet".
+// Docking's helpers that place and show the window. When it moves is decided in dock/sliding.h.
 #pragma once
 
 #include "core/frmMain.h"
@@ -20,7 +19,6 @@ int GripEdgesAt(const frmMain& Main, Point at);
 void SetWindowOnTop(frmMain& Main); // by [OnTop]
 void ApplyOpacity(frmMain& Main);
 void mnuMaximize_Click(frmMain& Main);
-void mnuLock_Click(frmMain& Main);
 void mnuOnTop_Click(frmMain& Main);
 void mnuPreventWindowMovement_Click(frmMain& Main);
 // Docking is held back while a question is open; one object a question. The splash lies over everything, so

@@ -1,4 +1,4 @@
-// What the workspace's menu does with the window: maximise, lock, on top, movement.
+// What the workspace's menu does with the window: maximise, on top, movement.
 #include "dock/docking.h"
 
 #include "containers/layout.h"
@@ -17,14 +17,6 @@ void mnuMaximize_Click(frmMain& Main) {
         PlaceMain(Main, WorkAreaOf(Main, Main.View.Window));
     }
     Main.Marks.Workspace();
-}
-
-void mnuLock_Click(frmMain& Main) {
-    Main.Dock.Locked = !Main.Dock.Locked;
-    Main.View.PicLockToolbar.Visible = Main.Dock.Locked;
-    Main.View.PicUnLockToolbar.Visible = !Main.Dock.Locked;
-    Main.Marks.Workspace();
-    SaveWorkspace(Main, true, false);
 }
 
 void mnuOnTop_Click(frmMain& Main) {

@@ -2,6 +2,7 @@
 
 #include "core/caption.h"
 #include "core/tr.h"
+#include "dock/workspace_lock.h"
 #include "persistence/backup.h"
 #include "persistence/container_file.h"
 #include "persistence/generation.h"
@@ -177,6 +178,7 @@ bool MaySave(const frmMain& Main) {
 // The exit's save is the last one even when it failed: what comes after it takes the tables apart.
 void SaveWorkspace(frmMain& Main, bool Recover, bool Exiting) {
     if (!MaySave(Main)) return;
+    if (!Recover) EndBrieflyUnlock(Main);
     Concluded(Main, Recover ? WriteRecovery(Main, What::Everything) : WriteCommitted(Main, Exiting));
     if (Exiting) Main.Store.ExitSaved = true;
 }
@@ -184,6 +186,7 @@ void SaveWorkspace(frmMain& Main, bool Recover, bool Exiting) {
 // A committed generation is never written by halves: settings and containers count together.
 void SaveContainers(frmMain& Main, bool Recover) {
     if (!MaySave(Main)) return;
+    if (!Recover) EndBrieflyUnlock(Main);
     Concluded(Main, Recover ? WriteRecovery(Main, What::ContainersOnly) : WriteCommitted(Main, false));
 }
 

@@ -4,6 +4,7 @@
 #include "containers/layout.h"
 #include "core/frmMain.h"
 #include "dock/docking.h"
+#include "dock/sliding.h"
 #include "persistence/text_values.h"
 #include "platform/clock.h"
 #include "platform/texts.h"
@@ -348,23 +349,7 @@ void InitAppearanceDefaults(SettingsRecord& settings) {
 Rect NormalPlace(const frmMain& Main) {
     const bool maximised = Main.Dock.Maximized || Main.View.State == WindowState::Maximized;
     Rect place = maximised && Main.View.RestoreRect.Width > 0 ? Main.View.RestoreRect : Main.View.Window;
-    if (Main.Dock.DockPosition == 0) return place;
-    const Rect monitor = MonitorOf(Main, place);
-    switch (Main.Dock.DockPosition) {
-    case 1:
-        place.Top = monitor.Top;
-        break;
-    case 2:
-        place.Left = monitor.Left;
-        break;
-    case 3:
-        place.Left = monitor.Right() - place.Width;
-        break;
-    case 4:
-        place.Top = monitor.Bottom() - place.Height;
-        break;
-    }
-    return place;
+    return OutPlace(Main, Main.Dock.DockPosition, place);
 }
 
 } // namespace quill

@@ -12,6 +12,7 @@
 namespace quill {
 
 class frmConProperties;
+class frmSettings;
 
 struct FileQuestion {
     std::string Title;
@@ -23,7 +24,9 @@ class Dialogs {
 public:
     virtual ~Dialogs() = default;
 
-    virtual bool Show(frmConProperties& dialog) = 0;                               // true: accepted
+    // True: accepted.
+    virtual bool Show(frmConProperties& dialog) = 0;
+    virtual bool Show(frmSettings& dialog) = 0;
     virtual std::optional<std::string> OpenFile(const FileQuestion& question) = 0; // nothing: cancelled
     virtual std::optional<Color> ChooseColor(Color now, const std::string& title) = 0;
 };

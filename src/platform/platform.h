@@ -8,6 +8,8 @@
 //   shell.h      starting things               drawing.h    canvas and images
 //   work.h       jobs off the thread           zip.h        archives
 //   dialogs.h    forms                         drags.h      drag and drop
+//   tray.h       the notification area         hotkeys.h    a key of the whole desktop
+//   counters.h   memory and processors
 #pragma once
 
 namespace quill {
@@ -27,6 +29,9 @@ class Catalogue;
 class Images;
 class Worker;
 class Zip;
+class Tray;
+class Hotkeys;
+class Counters;
 
 struct Platform {
     quill::Files& Files;
@@ -44,6 +49,9 @@ struct Platform {
     quill::Images& Images;
     quill::Worker& Worker;
     quill::Zip& Zip;
+    quill::Tray& Tray;
+    quill::Hotkeys& Hotkeys;
+    quill::Counters& Counters;
 };
 
 } // namespace quill

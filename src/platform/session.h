@@ -2,6 +2,7 @@
 // what needs none (help, backup, a second start) never pays for one.
 #pragma once
 
+#include "platform/geometry.h"
 #include "platform/result.h"
 
 #include <string>
@@ -32,6 +33,8 @@ public:
 
     // A person who asked the desktop for less motion gets no effects.
     virtual bool ReducedMotion() const = 0;
+    // The desktop's accent colour; where it has none, what it marks selected things with.
+    virtual Color AccentColor() const = 0;
 
     virtual void PrintOut(const std::string& text) = 0;
     virtual void PrintError(const std::string& text) = 0;

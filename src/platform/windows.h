@@ -6,6 +6,7 @@
 #include "platform/geometry.h"
 
 #include <compare>
+#include <optional>
 #include <vector>
 
 namespace quill {
@@ -32,6 +33,12 @@ enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
 enum class Activate { No, Yes };
 
+// A window in the desktop's stacking order, as far as it matters to who wants to stay visible at an edge.
+struct StackedWindow {
+    std::optional<WindowId> Ours;
+    int PanelEdge = 0; // of a panel that keeps an edge free: 1 top, 2 left, 3 right, 4 bottom; 0: no panel
+};
+
 struct Monitor {
     Rect Place;
     Rect WorkArea; // without panels
@@ -49,8 +56,16 @@ public:
     virtual void SetOpacity(WindowId window, int alpha) = 0; // 0 to 255; solid where nothing composes
     virtual void SetWindowOnTop(WindowId window, bool topMost) = 0;
     virtual void SetTaskbarEntry(WindowId window, bool shown) = 0;
+    // Asks for the keyboard past focus stealing prevention; it may arrive a moment later, and
+    // Foreground_Changed tells of it. Keys that are typed meanwhile are not lost where the system allows.
     virtual void SetForegroundWindow(WindowId window) = 0;
     virtual bool IsForeground(WindowId window) const = 0;
+    // The keyboard goes to the topmost window of another program, if the named one has it.
+    virtual void GiveForegroundBack(WindowId window) = 0;
+    virtual void RaiseWindow(WindowId window) = 0;           // above its equals, without the keyboard
+    virtual std::vector<StackedWindow> Stacking() const = 0; // what shows, topmost first
+    // Whether another program's window covers the whole monitor at a place, as a film or a game does.
+    virtual bool IsFullScreenAt(Point place) const = 0;
     // Moving and sizing with the pointer, begun by a press; ends with the release. Form_Moved follows.
     virtual void BeginMove(WindowId window) = 0;
     virtual void BeginResize(WindowId window, int edges) = 0; // sum of 1 left, 2 top, 4 right, 8 bottom
@@ -64,5 +79,7 @@ public:
 inline constexpr WindowId MainWindow{WindowName::frmMain};
 inline constexpr WindowId SplashWindow{WindowName::frmSplash};
 inline constexpr WindowId TipWindow{WindowName::frmTip};
+inline constexpr WindowId MiniDockWindow{WindowName::frmMiniDock};
+inline constexpr WindowId MiniToolbarWindow{WindowName::frmMiniToolbar}; // titled "QuillmereMiniToolbar"
 
 } // namespace quill

@@ -1,5 +1,6 @@
 #include "qt/qt_platform.h"
 
+#include "posix/counters_posix.h"
 #include "posix/files_posix.h"
 #include "posix/instance_posix.h"
 #include "posix/places_posix.h"
@@ -11,6 +12,8 @@
 #include "qt/core/qt_dialogs.h"
 #include "qt/core/qt_questions.h"
 #include "qt/core/qt_session.h"
+#include "qt/dock/qt_hotkeys.h"
+#include "qt/dock/qt_tray.h"
 #include "qt/dock/qt_windows.h"
 #include "qt/shortcuts/gio_shell.h"
 #include "qt/shortcuts/qt_drags.h"
@@ -40,6 +43,9 @@ struct QtPlatform::Parts {
     QtDrags Drags{Attached, Display, Open};
     QtTexts Texts{Display};
     QtImages Images{Display};
+    QtTray Tray{Attached, Display};
+    QtHotkeys Hotkeys{Attached, Display};
+    CountersPosix Counters;
 
     // What runs on the thread works for the display, and ends before it.
     ~Parts() { Worker.Finish(); }
@@ -50,9 +56,9 @@ QtPlatform::~QtPlatform() = default;
 
 Platform QtPlatform::Ports() {
     auto& parts = *parts_;
-    return {parts.Files,   parts.Places,    parts.Clock,     parts.Instance, parts.Session,
-            parts.Windows, parts.Shell,     parts.Questions, parts.Dialogs,  parts.Drags,
-            parts.Texts,   parts.Catalogue, parts.Images,    parts.Worker,   parts.Zip};
+    return {parts.Files,  parts.Places,    parts.Clock,   parts.Instance, parts.Session, parts.Windows,
+            parts.Shell,  parts.Questions, parts.Dialogs, parts.Drags,    parts.Texts,   parts.Catalogue,
+            parts.Images, parts.Worker,    parts.Zip,     parts.Tray,     parts.Hotkeys, parts.Counters};
 }
 
 } // namespace quill::qt

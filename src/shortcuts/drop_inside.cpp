@@ -76,7 +76,7 @@ void SaveMoved(frmMain& Main, const Moved& moved) {
 
 DropAnswer DropObjects(frmMain& Main, Parent to, Point at, const DragData& data) {
     const bool heldIsGone = data.Objects.empty() || !IsThere(Main, data.Objects.front());
-    if (heldIsGone || !TakesDrop(Main, to, data)) return DropAnswer::Refused;
+    if (heldIsGone || !OpensForDrop(Main, to, data)) return DropAnswer::Refused;
     if (to.Kind == ParentKind::ContainerFrame) Main.Group.CurrentContainer = to.Index;
     const Moved moved = MoveAll(Main, {to, at}, data);
     PushMove(Main, moved.Step);

@@ -188,7 +188,7 @@ void TellDuplicates(frmMain& Main) {
 } // namespace
 
 DropAnswer DropFromOutside(frmMain& Main, Parent to, Point at, const DragData& data) {
-    if (!data.Objects.empty() || !TakesDrop(Main, to, data)) return DropAnswer::Refused;
+    if (!data.Objects.empty() || !OpensForDrop(Main, to, data)) return DropAnswer::Refused;
     if (to.Kind == ParentKind::ContainerFrame)
         Main.Group.CurrentContainer = to.Index;
     else

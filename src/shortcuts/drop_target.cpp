@@ -33,9 +33,13 @@ bool TakesInContainer(const frmMain& Main, const Parent& to, const DragData& dat
     });
 }
 
-bool IsLockedFor(const frmMain& Main, const DragData& data) {
+Edit EditOf(const DragData& data) {
     const bool picturesOnly = !data.Objects.empty() && std::ranges::all_of(data.Objects, &IsPicture);
-    return picturesOnly ? !MayMoveContainers(Main) : !MayMoveShortcuts(Main);
+    return picturesOnly ? Edit::Containers : Edit::Shortcuts;
+}
+
+bool IsLockedFor(const frmMain& Main, const DragData& data) {
+    return EditOf(data) == Edit::Containers ? !MayMoveContainers(Main) : !MayMoveShortcuts(Main);
 }
 
 bool HoldsSomething(const frmMain& Main, const DragData& data) {
@@ -105,6 +109,10 @@ std::optional<DropPlace> DropPlaceAt(const frmMain& Main, SurfaceId surface, Poi
 bool TakesDrop(const frmMain& Main, Parent to, const DragData& data) {
     if (Main.Group.FrameLinkGroup || IsLockedFor(Main, data) || !HoldsSomething(Main, data)) return false;
     return to.Kind == ParentKind::picBack || TakesInContainer(Main, to, data);
+}
+
+bool OpensForDrop(frmMain& Main, Parent to, const DragData& data) {
+    return TakesDrop(Main, to, data) && NeedsEdit(Main, EditOf(data));
 }
 
 bool IsOpenFrame(const frmMain& Main, int Index) {

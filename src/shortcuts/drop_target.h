@@ -31,6 +31,8 @@ Parent ParentOf(const frmMain& Main, const DraggedObject& object);
 std::optional<DropPlace> DropPlaceAt(const frmMain& Main, SurfaceId surface, Point at);
 // Whether the data may be dropped there at all; whether there is room is told after the drop.
 bool TakesDrop(const frmMain& Main, Parent to, const DragData& data);
+// The same at the drop itself: a lock that may be opened briefly is.
+bool OpensForDrop(frmMain& Main, Parent to, const DragData& data);
 // A place in a tile, a folded container, a title row or under a note is no place that anybody sees: what is
 // dropped there goes to the next free cell.
 bool ShowsPlace(const frmMain& Main, const DropPlace& place);

@@ -2,6 +2,7 @@
 
 #include "core/tr.h"
 #include "dock/docking.h"
+#include "dock/sliding.h"
 #include "persistence/save.h"
 #include "platform/questions.h"
 #include "platform/shell.h"
@@ -148,9 +149,14 @@ void LinkClick(frmMain& Main, Launch launch) {
         StartNow(Main, std::move(launch));
 }
 
-// The workspace stays where it is while it is suspended; else what starts may come in front of it.
+// A workspace at an edge makes room; one that stays lets what starts come in front of it, and the heartbeat
+// does not take that back. While it is suspended it stays as it is.
 void PreLaunch(frmMain& Main) {
-    if (!Main.Dock.Suspended && Main.Settings.OnTop) Main.P.Windows.SetWindowOnTop(MainWindow, false);
+    if (Main.Dock.Suspended || Main.Dock.DockPosition != 0) return;
+    if (MayCollapse(Main)) return DockMe(Main, EdgeOfWindow(Main, Main.View.Window), true);
+    if (!Main.Settings.OnTop) return;
+    Main.P.Windows.SetWindowOnTop(MainWindow, false);
+    Main.Dock.ZOrderAsserted = true;
 }
 
 void ShowLaunchError(frmMain& Main, const std::string& text) {

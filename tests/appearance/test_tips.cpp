@@ -2,9 +2,11 @@
 #include "appearance/paint_tip.h"
 #include "appearance/palette.h"
 #include "appearance/tips.h"
+#include "containers/selection.h"
 #include "containers/workspace_fixture.h"
 #include "core/menus.h"
 #include "core/start.h"
+#include "dock/dock_commands.h"
 #include "dock/docking.h"
 #include "fake/canvas.h"
 #include "fake/desk.h"
@@ -192,6 +194,66 @@ TEST_F(TipTexts, OurOwnWordsAreTranslatedAndNamesAreNot) {
     EXPECT_NE(tip.find("\nRechtsklick: Menü\n"), std::string::npos) << tip;
 }
 
+// What the tip of the title says.
+
+const std::string SwitchesOff =
+    "\n\nUndock on Click: Off\nUndock Immediately: Off\nGrab Focus: Off\nCenter Mouse: Off";
+
+TEST_F(TipTexts, TheTitleTellsHowItIsMovedAndHowTheWorkspaceComesOut) {
+    EXPECT_EQ(TipOfTitle(Main), "Click and hold to move the workspace" + SwitchesOff);
+    Main.Settings.PreventWindowMovement = true;
+    EXPECT_EQ(TipOfTitle(Main), "WORKSPACE POSITION IS LOCKED" + SwitchesOff);
+}
+
+TEST_F(TipTexts, TheTitleTellsEachSwitchInItsOwnLine) {
+    auto& settings = Main.Settings;
+    const std::string head = "Click and hold to move the workspace\n\n";
+    settings.UndockOnClick = true;
+    EXPECT_EQ(TipOfTitle(Main), head + "Undock on Click: On\nUndock Immediately: Off\nGrab Focus: Off\n"
+                                       "Center Mouse: Off");
+    settings.UndockImmediately = true;
+    EXPECT_EQ(TipOfTitle(Main), head + "Undock on Click: On\nUndock Immediately: On\nGrab Focus: Off\n"
+                                       "Center Mouse: Off");
+    settings.UndockOnClick = false;
+    settings.GrabFocus = true;
+    EXPECT_EQ(TipOfTitle(Main), head + "Undock on Click: Off\nUndock Immediately: On\nGrab Focus: On\n"
+                                       "Center Mouse: Off");
+    settings.GrabFocus = false;
+    settings.CenterMouse = true;
+    EXPECT_EQ(TipOfTitle(Main), head + "Undock on Click: Off\nUndock Immediately: On\nGrab Focus: Off\n"
+                                       "Center Mouse: On");
+}
+
+TEST_F(TipTexts, WithExactlyOneShortcutSelectedTheTitleTellsItsNameFirst) {
+    const int home = NewLink(OnWorkspace(), {0, 0}), work = NewLink(OnWorkspace(), {0, 0});
+    NameLink(home, "<b>Home</b>\n%1");
+    NameLink(work, "");
+    SetSelection(Main, home, true);
+    EXPECT_EQ(TipOfTitle(Main), "Selected Shortcut: <b>Home</b> %1" + SwitchesOff) << "a name is plain text";
+    Main.Settings.PreventWindowMovement = true;
+    EXPECT_EQ(TipOfTitle(Main), "Selected Shortcut: <b>Home</b> %1" + SwitchesOff);
+    SetSelection(Main, work, true);
+    EXPECT_EQ(TipOfTitle(Main), "WORKSPACE POSITION IS LOCKED" + SwitchesOff);
+    SetSelection(Main, home, false);
+    EXPECT_EQ(TipOfTitle(Main), "Selected Shortcut: thing" + SwitchesOff) << "without a name, its target's";
+    NameLink(work, std::string(200, 'x'));
+    EXPECT_EQ(TipOfTitle(Main), "Selected Shortcut: " + std::string(60, 'x') + "..." + SwitchesOff);
+}
+
+TEST_F(TipTexts, TheTitleTellsNothingWhileMaximisedOrWithTipsOff) {
+    Main.Dock.Maximized = true;
+    EXPECT_EQ(TipOfTitle(Main), "");
+    Main.Dock.Maximized = false;
+    Main.Settings.ShowTips = false;
+    EXPECT_EQ(TipOfTitle(Main), "");
+}
+
+TEST_F(TipTexts, TheWordsOfTheTitleAreTranslated) {
+    computer.Catalogue.Messages["Grab Focus: %1"] = "Fokus holen: %1";
+    computer.Catalogue.Messages["Off"] = "aus";
+    EXPECT_NE(TipOfTitle(Main).find("\nFokus holen: aus\n"), std::string::npos) << TipOfTitle(Main);
+}
+
 // When it shows, and where.
 
 struct Tips : testing::Test {
@@ -370,6 +432,82 @@ TEST_F(Tips, AContainerThatLiesOverTheTitleHidesItFromTheMouse) {
 TEST_F(Tips, TheEndOfTheProgramLeavesNoTip) {
     Rest(ElementKind::ContainerLabel, 0);
     UnloadMain(*desk.Main);
+    ExpectNothingLeft();
+}
+
+TEST_F(Tips, AMouseThatRestsHalfASecondOnTheWorkspacesTitleIsToldAboutIt) {
+    desk.PointAt(ElementKind::lblCaption);
+    desk.Wait(restTime - 1);
+    EXPECT_FALSE(Shows());
+    desk.Wait(1);
+    EXPECT_TRUE(Shows());
+    EXPECT_EQ(Tip().Text, TipOfTitle(*desk.Main));
+    EXPECT_EQ(Tip().Container, TitleTip);
+}
+
+TEST_F(Tips, TheButtonsInTheTitleHaveNoneOfIt) {
+    for (const auto button : {ElementKind::PicMenu, ElementKind::PicUnLockToolbar, ElementKind::PicDock}) {
+        Rest(button, -1);
+        ExpectNothingLeft();
+    }
+}
+
+TEST_F(Tips, OnTheGroundOfTheWorkspaceNothingWaits) {
+    desk.PointAt(ElementKind::picBack);
+    ExpectNothingLeft();
+}
+
+TEST_F(Tips, TheTipOfTheTitleStaysWhileTheMouseMovesThereAndGoesWhenItLeaves) {
+    Rest(ElementKind::lblCaption, -1);
+    desk.Wait(fadeTime);
+    desk.PointAt(ElementKind::lblCaption);
+    desk.Wait(2000);
+    EXPECT_TRUE(Shows() && !Tip().Leaving);
+    desk.PointAt(ElementKind::picBack);
+    desk.Wait(100 + fadeTime);
+    ExpectNothingLeft();
+}
+
+TEST_F(Tips, TheTipOfTheTitleGoesWhenTheSessionOnlyTellsThatTheMouseHasLeft) {
+    Rest(ElementKind::lblCaption, -1);
+    desk.Wait(fadeTime);
+    Form_MouseLeave(*desk.Main, MainWindow); // the cursor stands where it was last seen
+    desk.Wait(100 + fadeTime);
+    ExpectNothingLeft();
+}
+
+TEST_F(Tips, APressAWheelAndAKeyHideTheTipOfTheTitle) {
+    Rest(ElementKind::lblCaption, -1);
+    MouseDown(*desk.Main, {}, {});
+    ExpectNothingLeft();
+    Rest(ElementKind::lblCaption, -1);
+    MouseWheel(*desk.Main, {}, {}, 1);
+    ExpectNothingLeft();
+    Rest(ElementKind::lblCaption, -1);
+    desk.PressKey(KeyTab);
+    ExpectNothingLeft();
+}
+
+TEST_F(Tips, AContainerThatLiesOverTheTitleRowIsToldInsteadOfIt) {
+    desk.PointAt(ElementKind::lblCaption);
+    auto& box = desk.Main->ConView(0).Container.Place;
+    box.Left = box.Top = 0;
+    box.Width = desk.Main->View.picBack.Place.Width;
+    desk.Wait(restTime);
+    ExpectNothingLeft();
+}
+
+TEST_F(Tips, WhileMaximisedTheTitleHasNone) {
+    desk.DoubleClickOn(ElementKind::lblCaption);
+    ASSERT_TRUE(desk.Main->Dock.Maximized);
+    Rest(ElementKind::lblCaption, -1);
+    ExpectNothingLeft();
+}
+
+TEST_F(Tips, AWorkspaceThatIsHiddenTakesItsTipAlong) {
+    desk.PointAt(ElementKind::lblCaption);
+    mnuHideAlterDesk_Click(*desk.Main);
+    desk.Wait(restTime);
     ExpectNothingLeft();
 }
 

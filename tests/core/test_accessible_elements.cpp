@@ -37,7 +37,7 @@ TEST_F(Accessible, GroundsAndFramesAreTheSurfaceItselfAndAnIconIsPartOfItsLabel)
     NewLink(InContainer(index), {500, 500});
     EXPECT_EQ(Told(OnContainer(index)),
               "ContainerLabel shapeShrink lblPinNote lblFoldUnfold lblShortcut ResizeSymbol");
-    EXPECT_EQ(Told(OnBack), "lblCaption PicMenu PicUnLockToolbar");
+    EXPECT_EQ(Told(OnBack), "lblCaption PicMenu PicUnLockToolbar PicDock");
     EXPECT_EQ(Told({SurfaceKind::Picture, NewPicture({5000, 5000, 900, 900})}), "");
 }
 

@@ -18,7 +18,7 @@ struct ElementsOf : test::WorkspaceFixture {
 };
 
 TEST_F(ElementsOf, TheEmptyWorkspaceHasItsTitleRowAndWhatWorksInIt) {
-    EXPECT_EQ(Seen(OnBack), "picBack picMoveMe lblCaption PicMenu PicUnLockToolbar");
+    EXPECT_EQ(Seen(OnBack), "picBack picMoveMe lblCaption PicMenu PicUnLockToolbar PicDock");
 }
 
 TEST_F(ElementsOf, AnOpenContainerHasItsTitleRowFrameShortcutsAndResizeMark) {

@@ -11,6 +11,8 @@ namespace {
 
 using fake::Desk;
 
+constexpr Rect Afloat{3000, 3000, 12000, 9000};
+
 struct KeyboardFocus : testing::Test {
     Desk desk;
     void SetUp() override {
@@ -132,7 +134,7 @@ TEST_F(KeyboardFocus, EnterStartsNothingThatIsNotSelected) {
     EXPECT_TRUE(desk.Computer.Shell.Launches.empty());
 }
 
-// ---- Escape
+// ---- Escape, on a workspace that touches no edge and so is not put away by it
 
 TEST_F(KeyboardFocus, EscapeShrinksWhatIsExpandedForTheMoment) {
     desk.ClickOn(ElementKind::shapeShrink, 0);
@@ -146,6 +148,7 @@ TEST_F(KeyboardFocus, EscapeShrinksWhatIsExpandedForTheMoment) {
 }
 
 TEST_F(KeyboardFocus, EscapeClearsTheSelectionOfContainersAndNothingElse) {
+    desk.MoveWindow(Afloat);
     SelectContainer(*desk.Main, 0);
     SetSelection(*desk.Main, 0, true);
     desk.PressKey(KeyEscape);
@@ -156,6 +159,7 @@ TEST_F(KeyboardFocus, EscapeClearsTheSelectionOfContainersAndNothingElse) {
 }
 
 TEST_F(KeyboardFocus, EscapeFoldsWhatIsUnfoldedForTheMomentAndDeselects) {
+    desk.MoveWindow(Afloat);
     desk.ClickOn(ElementKind::lblFoldUnfold, 0);
     desk.DoubleClickOn(ElementKind::ContainerLabel, 0);
     ASSERT_EQ(desk.Main->Group.AutoFoldContainerIndex, 0);
@@ -166,6 +170,7 @@ TEST_F(KeyboardFocus, EscapeFoldsWhatIsUnfoldedForTheMomentAndDeselects) {
 }
 
 TEST_F(KeyboardFocus, EscapeTakesTheFocusMarkAway) {
+    desk.MoveWindow(Afloat);
     desk.PressKey(KeyTab);
     desk.PressKey(KeyEscape);
     EXPECT_FALSE(desk.Main->View.FocusVisible);

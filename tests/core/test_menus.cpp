@@ -34,15 +34,22 @@ TEST_F(Menus, TheWorkspacesMenuHoldsEverythingThatIsBuilt) {
               "New &Container [Ctrl+T]\n&Note [Ctrl+N]\n-\n"
               "(-) &Undo [Ctrl+Z]\n(-) &Redo [Ctrl+Y]\n(-) Clear Undo Histor&y [Ctrl+Shift+Delete]\n-\n"
               "S&hortcuts\n  (-) &Select All [Ctrl+A]\n  (-) &Deselect All [Esc]\n"
-              "  (-) &Invert Selection [Alt+I]\n"
+              "  (-) &Invert Selection [Alt+I]\n  -\n"
+              "  (-) Sta&rt Selected [Alt+R]\n  (-) Remo&ve Shortcuts [Shift+Delete]\n"
               "Cont&ainers\n  &Next Container [Space]\n  &Previous Container [Shift+Space]\n  -\n"
               "  &Invert Selection [Alt+Shift+I]\n  (-) &Deselect All [Esc]\n"
               "Arran&ge\n  (-) Sort &Ascending [Alt+A]\n  (-) Sort &Descending [Alt+D]\n  -\n"
               "  &Line Spacing... [Alt+P]\n  ( ) &Snap to Grid [Alt+G]\n"
-              "Text Si&ze\n  (-) &Larger [Ctrl++]\n  (-) &Smaller [Ctrl+-]\n  (-) &Other... [Alt+Z]\n"
+              "Te&xt\n  (-) &Larger [Ctrl++]\n  (-) &Smaller [Ctrl+-]\n  (-) &Other... [Alt+Z]\n"
+              "  -\n  (-) &Bold [Ctrl+B]\n  (-) &Color... [Alt+Shift+C]\n"
               "Re&fresh [Shift+F5]\n-\n&Save [F8]\n&Backup [Ctrl+F8]\n-\n"
-              "( ) Loc&k [Ctrl+L]\n(x) Keep &On Top [Ctrl+Shift+T]\n( ) Lock &Position [Ctrl+Shift+L]\n"
-              "Ma&ximize [F11]\n-\n&Ignore Changes [Ctrl+Shift+F8]\nClear &Workspace [Ctrl+Shift+F4]\n"
+              "&Position\n  &Top [Alt+Up]\n  &Left [Alt+Left]\n  &Right [Alt+Right]\n  &Bottom [Alt+Down]\n"
+              "  -\n  &Center Workspace [Alt+C]\n  ( ) Loc&k Position [Ctrl+Shift+L]\n"
+              "&View\n  Collapse &Now [Esc]\n  ( ) &Suspend Auto-Collapse [Ctrl+Shift+U]\n"
+              "  &Hide Workspace [Ctrl+Shift+H]\n  -\n  Ma&ximize [F11]\n"
+              "  (x) Keep &On Top [Ctrl+Shift+T]\n"
+              "( ) Loc&k [Ctrl+L]\nS&ettings... [F3]\n-\n&Ignore Changes [Ctrl+Shift+F8]\nClear &Workspace "
+              "[Ctrl+Shift+F4]\n"
               "Load &Defaults [Ctrl+Shift+F5]\nCommand-&line Options [Shift+F1]\n-\nExi&t [Alt+F4]\n");
 }
 
@@ -203,6 +210,14 @@ std::string NameOfKey(int code) {
         return "Space";
     case KeyDelete:
         return "Delete";
+    case KeyLeft:
+        return "Left";
+    case KeyUp:
+        return "Up";
+    case KeyRight:
+        return "Right";
+    case KeyDown:
+        return "Down";
     case 187:
         return "+";
     case 189:
@@ -226,9 +241,9 @@ TEST(AllMenus, NoLineIsDead) {
     }
 }
 
-// What Esc does begins with the containers and ends with the shortcuts, in a routine of its own.
+// What Esc does begins with the containers, docks, and ends with the shortcuts, in routines of its own.
 bool IsPartOfEscape(const MenuEntry& entry) {
-    return entry.Name == "mnuSelectShortcuts(1)";
+    return entry.Name == "mnuSelectShortcuts(1)" || entry.Name == "mnuDockNow";
 }
 
 TEST(AllMenus, EveryCommandHasAKeyAndTheKeyTableHasTheCommandForIt) {

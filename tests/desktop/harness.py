@@ -354,11 +354,24 @@ class Desktop:
 
     def set_monitors(self, *rects):
         """Splits the one screen into monitors, each (x, y, width, height). The first is the primary."""
-        for place, (x, y, width, height) in enumerate(rects):
-            size = "%d/%dx%d/%d+%d+%d" % (width, width // 4, height, height // 4, x, y)
-            name = ("*" if place == 0 else "") + "MON%d" % place
-            output = "screen" if place == 0 else "none"
-            subprocess.run(["xrandr", "--setmonitor", name, size, output], env=self.env, check=True)
+        for place, rect in enumerate(rects):
+            self._plug(place, *rect)
+        self.settle()
+
+    def plug_monitor(self, place, rect):
+        """Brings back one that was unplugged."""
+        self._plug(place, *rect)
+        self.settle()
+
+    def _plug(self, place, x, y, width, height):
+        size = "%d/%dx%d/%d+%d+%d" % (width, width // 4, height, height // 4, x, y)
+        name = ("*" if place == 0 else "") + "MON%d" % place
+        output = "screen" if place == 0 else "none"
+        subprocess.run(["xrandr", "--setmonitor", name, size, output], env=self.env, check=True)
+
+    def unplug_monitor(self, place):
+        """Unplugs a monitor that set_monitors has made; the others stay."""
+        subprocess.run(["xrandr", "--delmonitor", "MON%d" % place], env=self.env, check=True)
         self.settle()
 
     def settle(self):

@@ -18,6 +18,8 @@ PARKED = {
     "a stub at the bottom edge": (300, 795, 400, 300),
     "wholly beyond the bottom edge": (300, 800, 400, 300),
 }
+THIN = {"left": (0, 167, 3, 166), "beyond the left": (-2, 167, 3, 166), "top": (217, -1, 166, 3),
+        "right": (1278, 167, 3, 166), "bottom": (217, 798, 166, 3)}
 OUT = (300, 200, 400, 300)
 OTHER = (550, 300, 400, 300)
 ON_OTHER_ONLY = (900, 550)  # a point where nothing covers the other window
@@ -272,6 +274,44 @@ class WindowKind:
         self.expect_above(menu, space, "the menu is above")
         self.desktop.key("Down", "Return")
         until(lambda: "chosen" in self.program.stdout, "keys arrive in the menu")
+
+    # The thin windows at the edge
+
+    def open_edge(self, place):
+        self.program = self.desktop.start("window_probe", ["edge", "Edge", *map(str, place)])
+        self.space = self.program.wait_window("^Edge$")
+        return self.space
+
+    def test_a_thin_window_lies_at_every_edge_to_the_pixel(self):
+        self.open_edge(THIN["left"])
+        for _ in range(2):
+            for edge, rect in THIN.items():
+                self.place(rect)
+                self.expect_place(rect, "thin, " + edge)
+                self.say("hide")
+                until(lambda: not self.desktop.x.is_viewable(self.space), "it is hidden")
+                self.say("show")
+                until(lambda: self.desktop.x.is_viewable(self.space), "it is shown again")
+                self.expect_place(rect, "thin and shown again, " + edge)
+
+    def test_a_thin_window_takes_no_keyboard_by_being_shown_or_pressed(self):
+        other = self.open_other()
+        edge = self.open_edge((200, 200, 200, 36))
+        self.expect_active(other, "the other window stays active when it appears")
+        self.desktop.click(300, 218)
+        until(lambda: "press" in self.program.stdout, "the press arrives")
+        self.say("hide", "show", "keepontop", "raise")
+        self.expect_active(other, "the other window stays active")
+        self.assertFalse(self.desktop.has_keyboard(edge))
+
+    def test_a_thin_window_lies_above_others_and_has_no_taskbar_entry(self):
+        other = self.open_other()
+        edge = self.open_edge((600, 320, 100, 36))
+        self.expect_above(edge, other, "it is above when it appears")
+        self.desktop.click(*ON_OTHER_ONLY)
+        self.expect_active(other, "the other window is active")
+        self.expect_above(edge, other, "it is still above")
+        self.assertLessEqual({"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"}, self.desktop.states(edge))
 
     # Grips, taskbar, identity
 

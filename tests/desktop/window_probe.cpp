@@ -2,11 +2,14 @@
 // without the rest of the program. It reads commands from standard input, one a line, and tells on standard
 // output what reached it. The window moves when it is dragged and is sized when its lower right corner is.
 //
-//   window_probe workspace|plain TITLE X Y WIDTH HEIGHT
+//   window_probe workspace|edge|plain|panel TITLE X Y WIDTH HEIGHT
 //
-// "plain" is an ordinary window of another program, for the workspace to live with.
+// "edge" is a window as the bar and the strip are. "plain" is an ordinary window of another program and
+// "panel" one that lies at an edge, for the workspace to live with.
 
+#include "qt/dock/edge_window.h"
 #include "qt/dock/native_window.h"
+#include "qt/dock/x11.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -23,6 +26,7 @@
 #include <sstream>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -96,6 +100,27 @@ void OpenMenu(Probe& probe, std::istream&) {
     probe.Menu.popup(probe.Window.geometry().topLeft() + QPoint(40, 40));
 }
 
+// What a panel keeps free: left, right, top, bottom, each along the whole side.
+void KeepFree(Probe& probe, std::istream& words) {
+    constexpr std::uint32_t far = 0xFFFF;
+    std::vector<std::uint32_t> strut(4);
+    for (auto& side : strut) words >> side;
+    for (int side = 0; side < 4; ++side) strut.insert(strut.end(), {0, far});
+    const auto window = static_cast<quill::qt::x11::WindowId>(probe.Window.winId());
+    quill::qt::x11::WriteNumbers(window, "_NET_WM_STRUT_PARTIAL", strut);
+}
+
+void BecomePanel(QWidget& window) {
+    window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    window.winId();
+    window.setAttribute(Qt::WA_X11NetWmWindowTypeDock);
+}
+
+void FillScreen(Probe& probe, std::istream& words) {
+    ReadSwitch(words) ? probe.Window.showFullScreen() : probe.Window.showNormal();
+}
+
 const std::map<std::string, Command> Commands = {
     {"place", [](Probe& probe, std::istream& words) { quill::qt::PlaceAt(probe.Window, ReadRect(words)); }},
     {"ontop",
@@ -113,6 +138,9 @@ const std::map<std::string, Command> Commands = {
     {"show", [](Probe& probe, std::istream&) { probe.Window.show(); }},
     {"fade", [](Probe& probe,
                 std::istream& words) { quill::qt::SetOpacity(probe.Window, ReadRect(words).x() / 100.0); }},
+    {"keepontop", [](Probe& probe, std::istream&) { quill::qt::KeepOnTop(probe.Window); }},
+    {"keepfree", KeepFree},
+    {"fullscreen", FillScreen},
     {"dialog", OpenDialog},
     {"menu", OpenMenu},
     {"foreground",
@@ -139,10 +167,13 @@ void Obey(Probe& probe) {
 int main(int count, char** words) {
     QApplication application(count, words);
     if (count != 7) return 2;
-    const bool isWorkspace = std::string(words[1]) == "workspace";
-    Probe probe(isWorkspace ? QColor(0, 90, 160) : QColor(160, 90, 0));
+    const std::map<std::string, void (*)(QWidget&)> kinds = {{"workspace", &quill::qt::MakeWorkspaceWindow},
+                                                             {"edge", &quill::qt::MakeEdgeWindow},
+                                                             {"panel", &BecomePanel}};
+    const std::string kind = words[1];
+    Probe probe(kind == "plain" || kind == "panel" ? QColor(160, 90, 0) : QColor(0, 90, 160));
     probe.Window.setWindowTitle(words[2]);
-    if (isWorkspace) quill::qt::MakeWorkspaceWindow(probe.Window);
+    if (kinds.contains(kind)) kinds.at(kind)(probe.Window);
     quill::qt::PlaceAt(probe.Window,
                        {std::stoi(words[3]), std::stoi(words[4]), std::stoi(words[5]), std::stoi(words[6])});
     probe.Window.show();

@@ -21,8 +21,8 @@ Computer::Computer() {
 }
 
 Platform Computer::MakePlatform() {
-    return {Files,   Places, Clock, Instance,  Session, Windows, Shell, Questions,
-            Dialogs, Drags,  Texts, Catalogue, Images,  Worker,  Zip};
+    return {Files, Places, Clock,     Instance, Session, Windows, Shell, Questions, Dialogs,
+            Drags, Texts,  Catalogue, Images,   Worker,  Zip,     Tray,  Hotkeys,   Counters};
 }
 
 void Computer::EndProcess() {
@@ -31,6 +31,9 @@ void Computer::EndProcess() {
     Session.Attached = nullptr;
     Questions.Ending = false;
     Windows.EndProcess();
+    Tray.ShellTrayRemove();
+    Hotkeys.UnregisterHotKey();
+    Counters.CloseQuery();
 }
 
 } // namespace quill::fake

@@ -6,9 +6,11 @@
 #pragma once
 
 #include "fake/clock.h"
+#include "fake/counters.h"
 #include "fake/dialogs.h"
 #include "fake/drags.h"
 #include "fake/files.h"
+#include "fake/hotkeys.h"
 #include "fake/images.h"
 #include "fake/instance.h"
 #include "fake/places.h"
@@ -16,6 +18,7 @@
 #include "fake/session.h"
 #include "fake/shell.h"
 #include "fake/texts.h"
+#include "fake/tray.h"
 #include "fake/windows.h"
 #include "fake/work.h"
 #include "fake/zip.h"
@@ -48,6 +51,9 @@ struct Computer {
     FakeImages Images;
     FakeWorker Worker;
     FakeZip Zip{Files};
+    FakeTray Tray;
+    FakeHotkeys Hotkeys;
+    FakeCounters Counters;
 };
 
 } // namespace quill::fake

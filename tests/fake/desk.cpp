@@ -100,6 +100,8 @@ void Desk::StopWorkspace() {
     Computer.EndProcess();
     Computer.Files.Revive();
     Main.reset();
+    telling_ = false;
+    pointed_.reset();
 }
 
 void Desk::ExitWorkspace() {
@@ -116,7 +118,16 @@ void Desk::Turn() {
         if (const auto move = std::exchange(windows.PendingMove, {})) Form_Moved(*Main, *move);
         if (const auto state = std::exchange(windows.PendingState, {})) Form_StateChanged(*Main, *state);
     }
+    if (telling_) TellCrossings(), TellForeground();
     LastMarks = MarkTurn(Main->Marks).Set;
+}
+
+constexpr std::int64_t Step = 5; // milliseconds; the least that a frame or a timer takes is more
+
+void Desk::Wait(std::int64_t milliseconds) {
+    for (; telling_ && milliseconds > Step; milliseconds -= Step) Computer.Clock.Advance(Step), Turn();
+    Computer.Clock.Advance(milliseconds);
+    Turn();
 }
 
 // ---- looking
@@ -297,6 +308,153 @@ void Desk::PressKey(int code, bool ctrl, bool shift, bool alt) {
 void Desk::MoveWindow(const Rect& place) {
     Computer.Windows.MovedByPerson(place);
     Turn();
+}
+
+// ---- what a sliding workspace meets
+
+std::optional<WindowId> Desk::WindowAt(Point screen) const {
+    const auto& windows = Computer.Windows;
+    const bool minimized = Main->View.State == WindowState::Minimized;
+    for (auto id = windows.Stack.rbegin(); id != windows.Stack.rend(); ++id)
+        if (!(minimized && *id == MainWindow) && windows.Of(*id).Place.Contains(screen.X, screen.Y))
+            return *id;
+    return {};
+}
+
+void Desk::TellCrossings() {
+    const auto now = WindowAt(Computer.Windows.Cursor);
+    const auto before = std::exchange(pointed_, now);
+    if (now == before) return;
+    if (before) Form_MouseLeave(*Main, *before);
+    if (now) Form_MouseEnter(*Main, *now);
+}
+
+void Desk::TellForeground() {
+    const auto now = Computer.Windows.Foreground;
+    if (std::exchange(foreground_, now) != now) Foreground_Changed(*Main);
+}
+
+void Desk::MoveMouse(Point screen, MouseButton held) {
+    if (!std::exchange(telling_, true)) {
+        pointed_ = WindowAt(Computer.Windows.Cursor);
+        foreground_ = Computer.Windows.Foreground;
+    }
+    Computer.Windows.Cursor = screen;
+    TellCrossings();
+    const auto window = WindowAt(screen);
+    if (window == MiniDockWindow) {
+        const auto& bar = Main->Dock.MiniDock.Place;
+        MouseEvent event;
+        event.At = {screen.X - bar.Left, screen.Y - bar.Top};
+        event.Screen = screen, event.Button = held;
+        MouseMove(*Main, {SurfaceKind::MiniDock, -1}, event);
+    } else if (window == MainWindow) {
+        const auto surface = TopAt(screen);
+        const Rect place = OnScreen(surface);
+        MouseMove(*Main, surface, EventAt(surface, {screen.X - place.Left, screen.Y - place.Top}, held));
+    }
+    Turn();
+}
+
+void Desk::MouseAway() {
+    constexpr float inset = 900, nearBottom = 150;
+    for (const auto& screen : Computer.Windows.Screens) {
+        const Rect& it = screen.Place;
+        const float middle = it.Left + it.Width / 2, left = it.Left + inset, right = it.Right() - inset;
+        const float top = it.Top + inset, bottom = it.Bottom() - inset;
+        for (const Point at : {Point{middle, it.Top + it.Height / 2},
+                               {left, top},
+                               {right, top},
+                               {left, bottom},
+                               {right, bottom},
+                               {middle, it.Bottom() - nearBottom}})
+            if (!WindowAt(at)) return MoveMouse(at);
+    }
+    throw std::runtime_error("our windows leave no place for the mouse");
+}
+
+// The middle of the part that a monitor shows.
+void Desk::PointAtBar(Point by) {
+    if (!BarShows()) throw std::runtime_error("there is no bar to point at");
+    const Rect bar = Computer.Windows.Of(MiniDockWindow).Place;
+    for (const auto& screen : Computer.Windows.Screens) {
+        const Rect& it = screen.Place;
+        if (!it.Intersects(bar)) continue;
+        const float left = std::max(bar.Left, it.Left), right = std::min(bar.Right(), it.Right());
+        const float top = std::max(bar.Top, it.Top), bottom = std::min(bar.Bottom(), it.Bottom());
+        return MoveMouse({(left + right) / 2 + by.X, (top + bottom) / 2 + by.Y});
+    }
+    throw std::runtime_error("no monitor shows the bar at " + Words(bar));
+}
+
+void Desk::PressBar(MouseButton button) {
+    PointAtBar();
+    const SurfaceId surface{SurfaceKind::MiniDock, -1};
+    if (!BarShows()) return; // pointing was enough
+    MouseEvent event;
+    event.Screen = Computer.Windows.Cursor, event.Button = button;
+    MouseDown(*Main, surface, event);
+    MouseUp(*Main, surface, event);
+    Turn();
+}
+
+// The mouse is held by whoever drags: windows hear of the drag alone.
+void Desk::DragOverBar() {
+    const Rect bar = Computer.Windows.Of(MiniDockWindow).Place;
+    telling_ = true;
+    Computer.Windows.Cursor = {bar.Left + bar.Width / 2, bar.Top + bar.Height / 2};
+    pointed_ = WindowAt(Computer.Windows.Cursor);
+    DragEvent event;
+    event.Screen = Computer.Windows.Cursor;
+    DragOver(*Main, {SurfaceKind::MiniDock, -1}, event, {});
+    Turn();
+}
+
+void Desk::OtherProgram() {
+    telling_ = true;
+    Computer.Windows.Foreground.reset();
+    Turn();
+}
+
+void Desk::PressHotkey() {
+    if (!Computer.Hotkeys.Held) throw std::runtime_error("the program holds no hotkey");
+    if (!std::exchange(telling_, true)) pointed_ = WindowAt(Computer.Windows.Cursor);
+    Hotkey_Pressed(*Main);
+    Turn();
+}
+
+void Desk::ClickTray(MouseButton button) {
+    if (!Computer.Tray.Shown) throw std::runtime_error("there is no icon in the tray");
+    PicTray_MouseUp(*Main, button);
+    Turn();
+}
+
+void Desk::ChooseInTray(const std::string& caption) {
+    for (const auto& line : TrayMenu_Lines(*Main)) {
+        std::string plain = line.Caption;
+        std::erase(plain, '&');
+        if (plain != caption || !line.Enabled) continue;
+        TrayMenu_Click(*Main, line.Id);
+        return Turn();
+    }
+    throw std::runtime_error("the tray's menu does not offer " + caption);
+}
+
+void Desk::ChangeScreens(const std::vector<Monitor>& screens) {
+    Computer.Windows.Screens = screens;
+    Screen_Changed(*Main);
+    Turn();
+}
+
+void Desk::Minimize() {
+    Computer.Windows.PendingState = WindowState::Minimized;
+    if (Computer.Windows.Foreground == MainWindow) Computer.Windows.Foreground.reset();
+    Turn();
+}
+
+void Desk::CarryWindow(const Rect& place) {
+    const Rect from = Main->View.Window;
+    Drag(ElementKind::lblCaption, -1, {place.Left - from.Left, place.Top - from.Top});
 }
 
 // ---- the tables

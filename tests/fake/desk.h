@@ -60,7 +60,26 @@ struct Desk {
     void LeaveNote(int index);
     void PressKey(int code, bool ctrl = false, bool shift = false, bool alt = false);
     void MoveWindow(const Rect& place); // by the person, as the window manager reports it
-    void Wait(std::int64_t milliseconds) { Computer.Clock.Advance(milliseconds), Turn(); }
+    void Wait(std::int64_t milliseconds);
+    // ---- pointer, keyboard and screens, as a sliding workspace meets them. The first of these verbs makes
+    // the window system tell of the pointer's crossings and of the keyboard's moves too, step by step while
+    // time passes.
+    void MoveMouse(Point screen, MouseButton held = MouseButton::None); // over whatever of ours is there
+    void MouseAway();                                                   // where no window of ours is
+    void PointAtBar(Point by = {});                                     // the middle of what shows of it
+    void PressBar(MouseButton button = MouseButton::Left);
+    void DragOverBar();
+    void OtherProgram(); // takes the keyboard
+    void LeaveWorkspace() { MouseAway(), OtherProgram(); }
+    void PressHotkey(); // throws when the program does not hold it
+    void ClickTray(MouseButton button = MouseButton::Left);
+    void ChooseInTray(const std::string& caption); // throws when it is not offered or disabled
+    void ChangeScreens(const std::vector<Monitor>& screens);
+    void Minimize();                     // by the taskbar
+    void CarryWindow(const Rect& place); // by its title row, from the press to the release
+    bool BarShows() const { return Computer.Windows.IsVisible(MiniDockWindow); }
+    bool WorkspaceShows() const { return Computer.Windows.IsVisible(MainWindow); }
+
     void Turn();       // what is pending reaches the workspace, and its marks are taken
     MarkSet LastMarks; // what the last turn took
 
@@ -69,6 +88,12 @@ struct Desk {
     int ShortcutNamed(const std::string& caption) const;
 
 private:
+    std::optional<WindowId> WindowAt(Point screen) const;
+    void TellCrossings();
+    void TellForeground();
+    bool telling_ = false; // of crossings and the keyboard
+    std::optional<WindowId> pointed_, foreground_;
+
     SurfaceId TopAt(Point screen) const;
     Rect OnScreen(SurfaceId surface) const;
     void FollowWindowManager(Point by);

@@ -13,6 +13,7 @@ namespace quill::fake {
 class FakeDialogs : public Dialogs {
 public:
     bool Show(frmConProperties& dialog) override { return Play(OnConProperties, dialog); }
+    bool Show(frmSettings& dialog) override { return Play(OnSettings, dialog); }
     std::optional<std::string> OpenFile(const FileQuestion& question) override {
         FileQuestions.push_back(question);
         return Next(Files);
@@ -24,6 +25,7 @@ public:
 
     // True: accepted.
     std::function<bool(frmConProperties&)> OnConProperties;
+    std::function<bool(frmSettings&)> OnSettings;
     std::deque<std::optional<std::string>> Files; // answers in order; nothing: cancelled
     std::deque<std::optional<Color>> Colors;
     std::vector<FileQuestion> FileQuestions;

@@ -41,6 +41,7 @@ public:
         if (OnSplash) OnSplash();
     }
     bool ReducedMotion() const override { return LessMotion; }
+    Color AccentColor() const override { return Accent; }
     void PrintOut(const std::string& text) override { Out += text; }
     void PrintError(const std::string& text) override { Err += text; }
 
@@ -48,6 +49,7 @@ public:
 
     std::optional<Failure> DisplayFailure; // OpenDisplay fails with it
     bool LessMotion = false;
+    Color Accent = 0xD47800;
     int DisplayOpened = 0;
     frmMain* Attached = nullptr;
     int Runs = 0;

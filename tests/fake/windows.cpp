@@ -29,7 +29,7 @@ void FakeWindows::Show(WindowId window, Activate activate) {
 
 void FakeWindows::Hide(WindowId window) {
     windows_[window].Visible = false;
-    std::erase(Stacking, window);
+    std::erase(Stack, window);
     if (Foreground == window) Foreground.reset();
     Log.push_back("hide " + NameOf(window));
 }
@@ -61,6 +61,30 @@ void FakeWindows::SetForegroundWindow(WindowId window) {
     Foreground = window;
     if (windows_[window].Visible) Raise(window);
     Log.push_back("foreground " + NameOf(window));
+}
+
+void FakeWindows::GiveForegroundBack(WindowId window) {
+    if (Foreground == window) Foreground.reset();
+    Log.push_back("giveback " + NameOf(window));
+}
+
+// As window managers do it, this brings it above a panel of the same layer.
+void FakeWindows::RaiseWindow(WindowId window) {
+    if (windows_[window].Visible) Raise(window);
+    if (windows_[window].OnTop) PanelOnTop = false;
+    Log.push_back("raise " + NameOf(window));
+}
+
+std::vector<StackedWindow> FakeWindows::Stacking() const {
+    std::vector<StackedWindow> windows;
+    for (const WindowId window : Stack) windows.insert(windows.begin(), StackedWindow{window, 0});
+    if (PanelEdge != 0)
+        windows.insert(PanelOnTop ? windows.begin() : windows.end(), StackedWindow{{}, PanelEdge});
+    return windows;
+}
+
+bool FakeWindows::IsFullScreenAt(Point place) const {
+    return FullScreen && FullScreen->Contains(place.X, place.Y);
 }
 
 void FakeWindows::BeginMove(WindowId window) {
@@ -99,7 +123,7 @@ void FakeWindows::MovedByPerson(const Rect& place) {
 
 void FakeWindows::EndProcess() {
     windows_.clear();
-    Stacking.clear();
+    Stack.clear();
     Foreground.reset();
     PendingMove.reset();
     PendingState.reset();
@@ -109,10 +133,9 @@ void FakeWindows::EndProcess() {
 
 // Above its equals: what is on top stays above what is not.
 void FakeWindows::Raise(WindowId window) {
-    std::erase(Stacking, window);
-    Stacking.push_back(window);
-    std::stable_partition(Stacking.begin(), Stacking.end(),
-                          [this](WindowId id) { return !windows_[id].OnTop; });
+    std::erase(Stack, window);
+    Stack.push_back(window);
+    std::stable_partition(Stack.begin(), Stack.end(), [this](WindowId id) { return !windows_[id].OnTop; });
 }
 
 } // namespace quill::fake

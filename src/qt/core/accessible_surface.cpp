@@ -133,7 +133,10 @@ QAccessibleInterface* AccessibleSurface::childAt(int x, int y) const {
 }
 
 QString AccessibleSurface::text(QAccessible::Text which) const {
-    if (which == QAccessible::Name) return Text(Info({}).Name);
+    if (which == QAccessible::Name) {
+        const QString name = Text(Info({}).Name);
+        return name.isEmpty() ? widget()->windowTitle() : name;
+    }
     return which == QAccessible::Description ? Text(Info({}).Tip) : QString();
 }
 

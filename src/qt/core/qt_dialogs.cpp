@@ -1,5 +1,6 @@
 #include "qt/core/qt_dialogs.h"
 
+#include "qt/appearance/settings_form.h"
 #include "qt/containers/frmConProperties.h"
 #include "qt/core/convert.h"
 
@@ -23,6 +24,12 @@ bool QtDialogs::Show(frmConProperties& dialog) {
     if (asker_.Ask(form) == QDialog::Accepted) return true;
     dialog.CancelButton_Click();
     return false;
+}
+
+bool QtDialogs::Show(frmSettings& dialog) {
+    if (asker_.IsEnding()) return false;
+    frmSettingsForm form(dialog, asker_.Owner());
+    return asker_.Ask(form) == QDialog::Accepted;
 }
 
 std::optional<std::string> QtDialogs::OpenFile(const FileQuestion& question) {

@@ -12,6 +12,7 @@ public:
     QtDialogs(const DisplayHolder& display, OpenQuestions& open) : display_(display), asker_(display, open) {}
 
     bool Show(frmConProperties& dialog) override;
+    bool Show(frmSettings& dialog) override;
     std::optional<std::string> OpenFile(const FileQuestion& question) override;
     std::optional<Color> ChooseColor(Color now, const std::string& title) override;
 

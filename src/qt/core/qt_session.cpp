@@ -10,6 +10,7 @@
 #include "qt/system/memory.h"
 
 #include <QApplication>
+#include <QPalette>
 #include <QScreen>
 #include <QSessionManager>
 
@@ -56,7 +57,10 @@ void QtSession::Attach(frmMain& main) {
     auto& stage = parts_.Display.Get().Stage;
     parts_.Attached.Main = &main;
     main.Marks.Wake = [&stage] { stage.Wake(); };
-    stage.OnFirstPicture = [this] { motion_.Begin(); };
+    stage.OnFirstPicture = [this] {
+        motion_.Begin();
+        accent_.Begin();
+    };
     signals_ = std::make_unique<EndSignals>([this] { EndWished(); });
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &stage,
                      [this](QSessionManager&) { EndWished(); });
@@ -109,6 +113,11 @@ void QtSession::ShowSplashNow() {
 
 bool QtSession::ReducedMotion() const {
     return motion_.IsForLess();
+}
+
+Color QtSession::AccentColor() const {
+    const QColor color = accent_.Get().value_or(QGuiApplication::palette().color(QPalette::Highlight));
+    return Rgb(color.red(), color.green(), color.blue());
 }
 
 void QtSession::PrintOut(const std::string& text) {

@@ -8,6 +8,7 @@
 #include "qt/core/display.h"
 #include "qt/core/end_signals.h"
 #include "qt/core/open_questions.h"
+#include "qt/system/accent_color.h"
 #include "qt/system/motion_wish.h"
 
 #include <QSocketNotifier>
@@ -43,6 +44,7 @@ public:
     void ProcessPending() override;
     void ShowSplashNow() override;
     bool ReducedMotion() const override;
+    Color AccentColor() const override;
     void PrintOut(const std::string& text) override;
     void PrintError(const std::string& text) override;
 
@@ -59,6 +61,7 @@ private:
     bool quit_ = false;
     bool endWished_ = false;
     MotionWish motion_;
+    quill::AccentColor accent_;
     std::unique_ptr<EndSignals> signals_;
     std::unique_ptr<QSocketNotifier> calls_;
     std::unique_ptr<QTimer> screens_; // runs while monitors are still changing

@@ -3,6 +3,7 @@
 #include "core/frmMain.h"
 #include "qt/appearance/looks.h"
 #include "qt/core/convert.h"
+#include "qt/dock/edge_window.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -20,6 +21,14 @@ namespace {
 
 constexpr auto drainEvent = static_cast<QEvent::Type>(QEvent::User + 1);
 constexpr auto firstPictureEvent = static_cast<QEvent::Type>(QEvent::User + 2);
+
+struct EdgeTitle {
+    SurfaceKind Kind;
+    const char* Title; // by which other programs, and the tests, know it
+};
+
+constexpr EdgeTitle edgeTitles[] = {{SurfaceKind::MiniDock, "Quillmere Bar"},
+                                    {SurfaceKind::MiniToolbar, "QuillmereMiniToolbar"}};
 
 bool LiesIn(const PictureView& picture, int container) {
     return picture.In == InContainer(container);
@@ -58,7 +67,8 @@ void Stack(const QWidget& parent, const std::vector<QWidget*>& wanted) {
 
 Stage::Stage(const Attachment& attached, Looks& looks, std::string iconFolder)
     : attached_(attached), looks_(looks), iconFolder_(std::move(iconFolder)), notes_(attached, looks.Fonts),
-      accessible_(attached, [this](SurfaceId id) { return Find(id); }) {}
+      accessible_(attached, [this](SurfaceId id) { return Find(id); }),
+      watch_(attached, [this](qt::x11::WindowId native) { return NameOf(native); }) {}
 
 Stage::~Stage() = default;
 
@@ -96,7 +106,33 @@ QWidget& Stage::Tip() {
     return *tip_;
 }
 
+SurfaceWidget& Stage::Edge(SurfaceKind kind) {
+    const SurfaceId id{kind, -1};
+    if (SurfaceWidget* known = Find(id)) return *known;
+    edges_.push_back(
+        std::make_unique<SurfaceWidget>(id, SurfaceContext{attached_, looks_, notes_, *this}, nullptr));
+    SurfaceWidget& made = *edges_.back();
+    made.setWindowTitle(QString::fromLatin1(std::ranges::find(edgeTitles, kind, &EdgeTitle::Kind)->Title));
+    qt::MakeEdgeWindow(made);
+    surfaces_[id] = &made;
+    return made;
+}
+
+QWidget* Stage::Known(WindowId window) const {
+    if (window == MainWindow) return main_.get();
+    if (window == MiniDockWindow) return Find({SurfaceKind::MiniDock, -1});
+    return window == MiniToolbarWindow ? Find({SurfaceKind::MiniToolbar, -1}) : nullptr;
+}
+
+std::optional<WindowId> Stage::NameOf(qt::x11::WindowId native) const {
+    for (const WindowId name : {MainWindow, MiniDockWindow})
+        if (const QWidget* widget = Known(name); widget && widget->internalWinId() == native) return name;
+    return std::nullopt;
+}
+
 QWidget* Stage::Window(WindowId window) {
+    if (window == MiniDockWindow) return &Edge(SurfaceKind::MiniDock);
+    if (window == MiniToolbarWindow) return &Edge(SurfaceKind::MiniToolbar);
     if (window == MainWindow) return &Main();
     if (window == TipWindow) return &Tip();
     return window == SplashWindow ? &Splash() : nullptr;
@@ -125,6 +161,8 @@ bool Stage::eventFilter(QObject* object, QEvent* event) {
 void Stage::Apply(const MarkSet& set) {
     if (set.Splash && splash_) splash_->update();
     if (set.Tip && tip_) tip_->update();
+    if (set.MiniDock || set.Everything) Update(Find({SurfaceKind::MiniDock, -1}));
+    if (set.MiniToolbar || set.Everything) Update(Find({SurfaceKind::MiniToolbar, -1}));
     if (set.Everything)
         SyncAll();
     else

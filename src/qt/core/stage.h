@@ -7,6 +7,7 @@
 #include "platform/windows.h"
 #include "qt/core/accessible_desk.h"
 #include "qt/core/surface_widget.h"
+#include "qt/dock/desktop_watch.h"
 #include "qt/dock/main_widget.h"
 #include "qt/dock/splash_widget.h"
 #include "qt/dock/tip_widget.h"
@@ -19,6 +20,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quill {
 
@@ -35,8 +37,10 @@ public:
     MainWidget& Main();
     QWidget& Splash();
     QWidget& Tip();
-    // Null for a window that this backend does not have.
+    SurfaceWidget& Edge(SurfaceKind kind); // the bar or the strip, a window of its own, made on first use
+    // Made if need be. Null for a window that this backend does not have.
     QWidget* Window(WindowId window);
+    QWidget* Known(WindowId window) const; // null for one that was never used: frmMain, the bar, the strip
     // Where things lay when the marks were last taken: what has changed since is about to be painted anyway.
     const ShortcutLists& Lists();
 
@@ -60,6 +64,7 @@ private:
     void RepaintWorkspace();
     void Update(SurfaceWidget* surface) const;
     void FirstPictureStands();
+    std::optional<WindowId> NameOf(qt::x11::WindowId native) const;
 
     const Attachment& attached_;
     Looks& looks_;
@@ -69,11 +74,13 @@ private:
     std::unique_ptr<MainWidget> main_;
     std::unique_ptr<SplashWidget> splash_;
     std::unique_ptr<TipWidget> tip_;
-    std::map<SurfaceId, SurfaceWidget*> surfaces_; // owned by their parents
+    std::vector<std::unique_ptr<SurfaceWidget>> edges_;
+    std::map<SurfaceId, SurfaceWidget*> surfaces_; // owned by their parents, or in edges_
     std::optional<ShortcutLists> lists_;           // made for the first surface that is painted
     bool woken_ = false;
     bool restack_ = false;
     bool seen_ = false; // the server has shown the workspace
+    DesktopWatch watch_;
 };
 
 } // namespace quill

@@ -3,6 +3,7 @@
 #include "appearance/paint.h"
 #include "core/frmMain.h"
 #include "dock/docking.h"
+#include "dock/mini_toolbar.h"
 #include "qt/appearance/looks.h"
 #include "qt/appearance/qt_canvas.h"
 #include "qt/core/convert.h"
@@ -10,6 +11,7 @@
 #include "qt/core/stage.h"
 #include "qt/notes/note_desk.h"
 
+#include <QCloseEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -122,7 +124,7 @@ SurfaceWidget::SurfaceWidget(SurfaceId id, const SurfaceContext& context, QWidge
     : QWidget(parent), id_(id), context_(context), drops_(id, context.Attached, *this) {
     setMouseTracking(true);
     const bool workspace = id.Kind == SurfaceKind::Workspace;
-    setAttribute(Qt::WA_OpaquePaintEvent, workspace); // the others have round corners
+    setAttribute(Qt::WA_OpaquePaintEvent, workspace || id.Kind == SurfaceKind::MiniDock); // others are round
     setAttribute(Qt::WA_TransparentForMouseEvents, id.Kind == SurfaceKind::Overlay);
     setAcceptDrops(id.Kind != SurfaceKind::Overlay);
     if (workspace) setFocusPolicy(Qt::StrongFocus);
@@ -151,6 +153,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
 // out.
 QRegion SurfaceWidget::Uncovered(const QRegion& region) const {
     const bool workspace = id_.Kind == SurfaceKind::Workspace;
+    if (!workspace && parent() == nullptr) return region; // nothing lies above
     const QPoint corner = workspace ? QPoint() : pos();
     const QRect around = region.boundingRect().translated(corner);
     const QObject& siblings = workspace ? static_cast<const QObject&>(*this) : *parent();
@@ -206,6 +209,12 @@ void SurfaceWidget::wheelEvent(QWheelEvent* event) {
 
 void SurfaceWidget::leaveEvent(QEvent*) {
     if (Alive()) MouseLeave(*context_.Attached.Main, id_);
+}
+
+// The strip may be closed by anybody who finds its window; the bar goes with the workspace alone.
+void SurfaceWidget::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (id_.Kind == SurfaceKind::MiniToolbar && Alive()) CloseMiniToolbar(*context_.Attached.Main);
 }
 
 void SurfaceWidget::ShowTip(QPoint at, QPoint screen) {

@@ -1,4 +1,5 @@
-// SurfaceWidget: one surface on the screen, the workspace, a container or a picture. It paints what the logic
+// SurfaceWidget: one surface on the screen, the workspace, a container or a picture, or a window of its own
+// as the bar and the strip. It paints what the logic
 // paints there and calls the logic's handlers; it knows nothing of what it shows.
 #pragma once
 
@@ -42,6 +43,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override { drops_.Enter(*event); }
     void dragMoveEvent(QDragMoveEvent* event) override { drops_.Move(*event); }
     void dragLeaveEvent(QDragLeaveEvent*) override { drops_.Leave(); }

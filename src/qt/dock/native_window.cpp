@@ -12,6 +12,7 @@
 #include <QWidget>
 #include <QWindow>
 #include <array>
+#include <optional>
 #include <vector>
 #include <xcb/xcb.h>
 
@@ -51,20 +52,20 @@ void SetState(x11::WindowId window, std::string_view state, bool wanted) {
     x11::TellWindowManager(window, "_NET_WM_STATE", {action, x11::Atom(state), 0, SourcePager});
 }
 
+using Numbers = std::vector<std::uint32_t>;
+
 // With several monitors the toolkit does not know the panels, but the window manager's work area does.
-QRegion WithoutPanels(const QRegion& screens) {
-    if (QGuiApplication::screens().size() < 2) return screens;
-    const auto area = x11::Numbers(x11::Root(), "_NET_WORKAREA");
-    if (area.size() < 4) return screens;
+QRegion WithoutPanels(const QRegion& screens, const Numbers& area) {
+    if (QGuiApplication::screens().size() < 2 || area.size() < 4) return screens;
     const double scale = qApp->devicePixelRatio();
     const auto units = [scale](std::uint32_t pixels) { return static_cast<int>(pixels / scale); };
     return screens & QRect(units(area[0]), units(area[1]), units(area[2]), units(area[3]));
 }
 
-bool ReachesBeyondTheScreens(const QRect& place) {
+bool ReachesBeyondTheScreens(const QRect& place, const Numbers& area) {
     QRegion screens;
     for (const QScreen* screen : QGuiApplication::screens()) screens += screen->availableGeometry();
-    return !(QRegion(place) - WithoutPanels(screens)).isEmpty();
+    return !(QRegion(place) - WithoutPanels(screens, area)).isEmpty();
 }
 
 Habit PresentHabit() {
@@ -78,8 +79,8 @@ Habit PresentHabit() {
 // with the notice of a changed property; then the request is sent and this object ends.
 class FocusRequest final : public QObject, public QAbstractNativeEventFilter {
 public:
-    explicit FocusRequest(QWidget& widget)
-        : QObject(&widget), window_(Id(widget)), clock_(x11::Atom(ClockProperty)) {
+    FocusRequest(QWidget& widget, x11::WindowId target)
+        : QObject(&widget), window_(Id(widget)), target_(target), clock_(x11::Atom(ClockProperty)) {
         qApp->installNativeEventFilter(this);
         x11::TouchProperty(window_, ClockProperty);
     }
@@ -96,11 +97,12 @@ private:
     void Send(std::uint32_t time) {
         if (sent_) return;
         sent_ = true;
-        x11::TellWindowManager(window_, "_NET_ACTIVE_WINDOW", {SourcePager, time, 0});
+        x11::TellWindowManager(target_, "_NET_ACTIVE_WINDOW", {SourcePager, time, 0});
         deleteLater();
     }
 
-    x11::WindowId window_;
+    x11::WindowId window_; // of ours, whose property is the clock
+    x11::WindowId target_;
     std::uint32_t clock_;
     bool sent_ = false;
 };
@@ -124,7 +126,7 @@ public:
 
     // Outwards the type that is left alone comes first and the place after it, inwards the other way round.
     void Place(const QRect& place) {
-        beyond_ = ReachesBeyondTheScreens(place);
+        beyond_ = ReachesBeyondTheScreens(place, WorkArea());
         if (beyond_) Apply();
         widget_.setGeometry(place);
         if (beyond_) return;
@@ -177,7 +179,7 @@ private:
     // The window manager forgets a window that is hidden, and reads type and states when it is shown; the
     // states that the toolkit keeps for itself can be told only after that.
     void Shown() {
-        beyond_ = ReachesBeyondTheScreens(widget_.geometry());
+        beyond_ = ReachesBeyondTheScreens(widget_.geometry(), WorkArea());
         habit_ = PresentHabit();
         WriteType();
         if (listed_)
@@ -190,17 +192,20 @@ private:
     }
 
     // A window manager that is just starting may lose the request of a program that starts beside it, as at
-    // the start of a session; then it is made again. A busy one may leave the toolkit with a wrong place.
+    // the start of a session; then it is made again. A busy one may leave the toolkit with a wrong place. One
+    // that is hidden meanwhile is left in peace until it is shown again.
     void WatchShown(int milliseconds) {
         watched_ = milliseconds <= lastLook;
         if (watched_)
             QTimer::singleShot(milliseconds, this, [this, milliseconds] {
-                if (!widget_.isVisible()) return WatchShown(2 * milliseconds);
+                if (!widget_.isVisible()) return EndWatch();
                 if (!x11::IsTaken(Id(widget_))) ShowAgain();
                 x11::TellPlace(Id(widget_));
                 WatchShown(2 * milliseconds);
             });
     }
+
+    void EndWatch() { watched_ = false; }
 
     // The toolkit sends only what it has not sent before, so the size is another one for a moment.
     void ShowAgain() {
@@ -233,8 +238,15 @@ private:
 
     // Another window manager has come, or the first one after us, as at the start of a session.
     void PropertyChanged(const xcb_property_notify_event_t& notice) {
-        if (notice.window == x11::Root() && notice.atom == x11::Atom("_NET_SUPPORTING_WM_CHECK"))
-            Soon(&WorkspaceWindow::TellAll);
+        if (notice.window != x11::Root()) return;
+        if (notice.atom == x11::Atom("_NET_WORKAREA")) workArea_.reset();
+        if (notice.atom == x11::Atom("_NET_SUPPORTING_WM_CHECK")) Soon(&WorkspaceWindow::TellAll);
+    }
+
+    // Kept, since a slide places the window fifty times a second.
+    const Numbers& WorkArea() {
+        if (!workArea_) workArea_ = x11::Numbers(x11::Root(), "_NET_WORKAREA");
+        return *workArea_;
     }
 
     QWidget* Blocker() const {
@@ -294,9 +306,10 @@ private:
 
     QWidget& widget_;
     std::vector<QPointer<QWidget>> dialogs_;
-    Layer standing_ = Layer::Top; // as last told
-    bool ordinary_ = false;       // the type as last written
-    bool told_ = false;           // the window manager has the window and knows its states
+    std::optional<Numbers> workArea_; // of all desktops together, as it was announced last
+    Layer standing_ = Layer::Top;     // as last told
+    bool ordinary_ = false;           // the type as last written
+    bool told_ = false;               // the window manager has the window and knows its states
     bool onTop_ = true;
     bool beyond_ = false; // reaches over the edge of the screens
     bool lifted_ = false; // raised on purpose since it was last at rest
@@ -336,17 +349,22 @@ void RaiseWindow(QWidget& window) {
 void TakeFocus(QWidget& window) {
     if (auto* native = WorkspaceWindow::Of(window)) native->Lift();
     if (Id(window)) {
-        new FocusRequest(window);
+        new FocusRequest(window, Id(window));
         return;
     }
     window.raise();
     window.activateWindow();
 }
 
+void GiveForegroundTo(std::uint32_t other, QWidget& ours) {
+    if (Id(ours) && other) new FocusRequest(ours, other);
+}
+
+// Some window managers go on naming a window that was hidden and left nobody else to be active.
 bool HasForeground(const QWidget& window) {
     if (!Id(window)) return window.isActiveWindow();
     const auto active = x11::Numbers(x11::Root(), "_NET_ACTIVE_WINDOW");
-    return !active.empty() && active.front() == Id(window);
+    return !active.empty() && active.front() == Id(window) && x11::KeyboardWindow() == Id(window);
 }
 
 void SetTaskbarEntry(QWidget& window, bool listed) {

@@ -10,6 +10,8 @@
 
 #include <QRect>
 
+#include <cstdint>
+
 class QWidget;
 
 namespace quill::qt {
@@ -31,6 +33,9 @@ void RaiseWindow(QWidget& window);
 // Brings any window of ours to the foreground with the keyboard, as a request of the user's that focus
 // stealing prevention lets through. It arrives a moment later; HasForeground tells when.
 void TakeFocus(QWidget& window);
+
+// Brings a window of another program to the foreground with the keyboard, by any window of ours.
+void GiveForegroundTo(std::uint32_t other, QWidget& ours);
 
 // Whether the window is the active one for the whole desktop.
 bool HasForeground(const QWidget& window);

@@ -3,8 +3,10 @@
 #include "core/handlers.h"
 #include "qt/core/convert.h"
 #include "qt/core/stage.h"
+#include "qt/dock/edge_window.h"
 #include "qt/dock/native_window.h"
 #include "qt/dock/work_area.h"
+#include "qt/dock/x11.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -22,13 +24,17 @@ Qt::WindowStates StatesOf(WindowState state) {
     return state == WindowState::Maximized ? Qt::WindowMaximized : Qt::WindowNoState;
 }
 
+bool IsEdge(WindowId window) {
+    return window == MiniDockWindow || window == MiniToolbarWindow;
+}
+
 } // namespace
 
 void QtWindows::Place(WindowId window, const Rect& place) {
     if (window == MainWindow)
         display_.Get().Stage.Main().PlaceWindow(PixelRect(place));
     else if (QWidget* widget = Widget(window))
-        widget->setGeometry(PixelRect(place));
+        qt::PlaceAt(*widget, PixelRect(place));
 }
 
 void QtWindows::Show(WindowId window, Activate activate) {
@@ -54,7 +60,12 @@ void QtWindows::SetOpacity(WindowId window, int alpha) {
 }
 
 void QtWindows::SetWindowOnTop(WindowId window, bool topMost) {
-    if (QWidget* widget = Widget(window)) qt::SetOnTop(*widget, topMost);
+    QWidget* widget = Widget(window);
+    if (widget == nullptr) return;
+    if (IsEdge(window))
+        qt::KeepOnTop(*widget); // they are nowhere else
+    else
+        qt::SetOnTop(*widget, topMost);
 }
 
 void QtWindows::SetTaskbarEntry(WindowId window, bool shown) {
@@ -68,6 +79,33 @@ void QtWindows::SetForegroundWindow(WindowId window) {
 bool QtWindows::IsForeground(WindowId window) const {
     const QWidget* widget = Widget(window);
     return widget != nullptr && qt::HasForeground(*widget);
+}
+
+void QtWindows::GiveForegroundBack(WindowId window) {
+    QWidget* widget = Widget(window);
+    if (widget == nullptr || !qt::HasForeground(*widget)) return;
+    if (const auto other = TopmostOfOthers(); other != 0) qt::GiveForegroundTo(other, *widget);
+}
+
+void QtWindows::RaiseWindow(WindowId window) {
+    if (QWidget* widget = Widget(window)) qt::RaiseWindow(*widget);
+}
+
+std::vector<StackedWindow> QtWindows::Stacking() const {
+    std::vector<DesktopWindows::Own> ours;
+    for (const WindowId name : {MainWindow, MiniDockWindow, MiniToolbarWindow}) {
+        const QWidget* widget = display_.Get().Stage.Known(name);
+        if (widget != nullptr && widget->isVisible())
+            ours.push_back({static_cast<qt::x11::WindowId>(widget->internalWinId()), name});
+    }
+    return others_.Stacking(ours);
+}
+
+bool QtWindows::IsFullScreenAt(Point place) const {
+    const QPoint pixel = PixelPoint(place);
+    const QScreen* screen = QGuiApplication::screenAt(pixel);
+    if (screen == nullptr || !qt::x11::IsPresent()) return false;
+    return IsCoveredAt(DevicePoint(*screen, pixel), DeviceRect(*screen));
 }
 
 void QtWindows::BeginMove(WindowId window) {

@@ -4,6 +4,7 @@
 
 #include "platform/windows.h"
 #include "qt/core/display.h"
+#include "qt/dock/desktop_windows.h"
 #include "qt/dock/pointer_drag.h"
 
 namespace quill {
@@ -22,6 +23,10 @@ public:
     void SetTaskbarEntry(WindowId window, bool shown) override;
     void SetForegroundWindow(WindowId window) override;
     bool IsForeground(WindowId window) const override;
+    void GiveForegroundBack(WindowId window) override;
+    void RaiseWindow(WindowId window) override;
+    std::vector<StackedWindow> Stacking() const override;
+    bool IsFullScreenAt(Point place) const override;
     void BeginMove(WindowId window) override;
     void BeginResize(WindowId window, int edges) override;
     std::vector<Monitor> Monitors() const override;
@@ -36,6 +41,7 @@ private:
     const Attachment& attached_;
     const DisplayHolder& display_;
     PointerDrag drag_;
+    mutable DesktopWindows others_;
 };
 
 } // namespace quill

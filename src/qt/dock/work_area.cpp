@@ -14,11 +14,6 @@ namespace {
 
 using Strut = std::vector<std::uint32_t>; // left, right, top, bottom, then the span of each; device pixels
 
-// Screens keep their corner, and grow by their own factor.
-QRect DeviceRect(const QScreen& screen) {
-    return {screen.geometry().topLeft(), screen.geometry().size() * screen.devicePixelRatio()};
-}
-
 QRect DeviceDesktop() {
     QRect all;
     for (const QScreen* screen : QGuiApplication::screens()) all |= DeviceRect(*screen);
@@ -62,6 +57,15 @@ QRect Reduced(QRect area) {
 }
 
 } // namespace
+
+QRect DeviceRect(const QScreen& screen) {
+    return {screen.geometry().topLeft(), screen.geometry().size() * screen.devicePixelRatio()};
+}
+
+QPoint DevicePoint(const QScreen& screen, QPoint place) {
+    const QPoint corner = screen.geometry().topLeft();
+    return corner + (place - corner) * screen.devicePixelRatio();
+}
 
 QRect WorkAreaOfScreen(const QScreen& screen) {
     if (QGuiApplication::screens().size() < 2 || !qt::x11::IsPresent()) return screen.availableGeometry();

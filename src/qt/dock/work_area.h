@@ -8,6 +8,10 @@ class QScreen;
 
 namespace quill {
 
+// Device pixels. Screens keep their corner, and grow by their own factor.
+QRect DeviceRect(const QScreen& screen);
+QPoint DevicePoint(const QScreen& screen, QPoint place);
+
 QRect WorkAreaOfScreen(const QScreen& screen);
 
 } // namespace quill

@@ -17,13 +17,6 @@ constexpr std::uint32_t SourcePager = 2;
 
 template <typename T> using Reply = std::unique_ptr<T, decltype(&std::free)>;
 
-// The interface object exists on other platforms too, so the platform's name decides.
-xcb_connection_t* Connection() {
-    if (!qApp || QGuiApplication::platformName() != QLatin1String("xcb")) return nullptr;
-    auto* native = qApp->nativeInterface<QNativeInterface::QX11Application>();
-    return native ? native->connection() : nullptr;
-}
-
 std::uint32_t AskForAtom(xcb_connection_t* server, std::string_view name) {
     const auto asked = xcb_intern_atom(server, 0, static_cast<std::uint16_t>(name.size()), name.data());
     const Reply<xcb_intern_atom_reply_t> answer(xcb_intern_atom_reply(server, asked, nullptr), &std::free);
@@ -38,19 +31,34 @@ Reply<xcb_get_property_reply_t> Read(WindowId window, std::string_view property)
     return {xcb_get_property_reply(server, asked, nullptr), &std::free};
 }
 
-void Write(WindowId window, std::string_view property, std::uint8_t mode,
+void Write(WindowId window, std::string_view property, xcb_atom_t type, std::uint8_t mode,
            const std::vector<std::uint32_t>& values) {
     auto* server = Connection();
     if (!server || !window) return;
-    xcb_change_property(server, mode, window, Atom(property), XCB_ATOM_ATOM, 32,
+    xcb_change_property(server, mode, window, Atom(property), type, 32,
                         static_cast<std::uint32_t>(values.size()), values.data());
     xcb_flush(server);
 }
 
 } // namespace
 
+// The interface object exists on other platforms too, so the platform's name decides.
+xcb_connection_t* Connection() {
+    if (!qApp || QGuiApplication::platformName() != QLatin1String("xcb")) return nullptr;
+    auto* native = qApp->nativeInterface<QNativeInterface::QX11Application>();
+    return native ? native->connection() : nullptr;
+}
+
 bool IsPresent() {
     return Connection() != nullptr;
+}
+
+// The server gives each of its clients a range of numbers of its own.
+bool IsOurs(WindowId window) {
+    auto* server = Connection();
+    if (!server) return false;
+    const auto* setup = xcb_get_setup(server);
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
 }
 
 WindowId Root() {
@@ -88,11 +96,15 @@ void WriteAtoms(WindowId window, std::string_view property, std::initializer_lis
     std::vector<std::uint32_t> values(names.size());
     std::transform(names.begin(), names.end(), values.begin(),
                    [](std::string_view name) { return Atom(name); });
-    Write(window, property, XCB_PROP_MODE_REPLACE, values);
+    Write(window, property, XCB_ATOM_ATOM, XCB_PROP_MODE_REPLACE, values);
+}
+
+void WriteNumbers(WindowId window, std::string_view property, const std::vector<std::uint32_t>& values) {
+    Write(window, property, XCB_ATOM_CARDINAL, XCB_PROP_MODE_REPLACE, values);
 }
 
 void TouchProperty(WindowId window, std::string_view property) {
-    Write(window, property, XCB_PROP_MODE_APPEND, {});
+    Write(window, property, XCB_ATOM_ATOM, XCB_PROP_MODE_APPEND, {});
 }
 
 void TellWindowManager(WindowId window, std::string_view message, std::initializer_list<std::uint32_t> data) {
@@ -143,6 +155,15 @@ void TellPlace(WindowId window) {
     event.width = sized->width, event.height = sized->height;
     xcb_send_event(server, 0, window, XCB_EVENT_MASK_STRUCTURE_NOTIFY, reinterpret_cast<const char*>(&event));
     xcb_flush(server);
+}
+
+WindowId KeyboardWindow() {
+    auto* server = Connection();
+    if (!server) return 0;
+    const auto asked = xcb_get_input_focus(server);
+    const Reply<xcb_get_input_focus_reply_t> answer(xcb_get_input_focus_reply(server, asked, nullptr),
+                                                    &std::free);
+    return answer ? answer->focus : 0;
 }
 
 void Flush() {

@@ -10,12 +10,16 @@
 #include <string_view>
 #include <vector>
 
+struct xcb_connection_t;
+
 namespace quill::qt::x11 {
 
 using WindowId = std::uint32_t; // 0 is no window
 
 bool IsPresent();
+xcb_connection_t* Connection(); // the toolkit's own; null without an X server
 WindowId Root();
+bool IsOurs(WindowId window); // made by this program
 
 // The number the server has given a name. 0 without an X server. Each call asks the server only once for a
 // name.
@@ -27,6 +31,9 @@ std::string Text(WindowId window, std::string_view property);
 
 // Replaces a list of atoms, each given by its name.
 void WriteAtoms(WindowId window, std::string_view property, std::initializer_list<std::string_view> names);
+
+// Replaces a list of plain numbers.
+void WriteNumbers(WindowId window, std::string_view property, const std::vector<std::uint32_t>& values);
 
 // Changes a property of the window in a way that shows nowhere, so that the server tells the present time in
 // the notice of the change.
@@ -45,6 +52,9 @@ bool IsTaken(WindowId window);
 // Tells the toolkit where its window stands, in the form in which window managers do it. A busy one may leave
 // the toolkit with a place that was true for a moment only, while it was taking the window.
 void TellPlace(WindowId window);
+
+// The window that the server sends keys to; 0 where there is none.
+WindowId KeyboardWindow();
 
 // Sends what the toolkit has queued; its own calls from a timer would wait for the next event.
 void Flush();
