@@ -3,6 +3,7 @@
 #include "containers/boundaries.h"
 #include "containers/full_size.h"
 #include "containers/layout.h"
+#include "containers/lock.h"
 #include "containers/scroll.h"
 #include "containers/selection.h"
 #include "core/objects.h"
@@ -157,6 +158,8 @@ void UndoMove(frmMain& Main, bool IsUndo) {
 }
 
 void mnuUndoRedo_Click(frmMain& Main, int Index) {
+    const auto& steps = Index == 0 ? Main.Group.UndoStack : Main.Group.RedoStack;
+    if (steps.empty() || !NeedsEdit(Main, Edit::Shortcuts)) return;
     UndoMove(Main, Index == 0);
 }
 

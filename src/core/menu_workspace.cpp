@@ -5,6 +5,7 @@
 #include "containers/commands.h"
 #include "containers/flip.h"
 #include "containers/lifecycle.h"
+#include "containers/lock.h"
 #include "containers/measures.h"
 #include "containers/selection.h"
 #include "containers/undo.h"
@@ -83,13 +84,13 @@ void FlipBackward(frmMain& Main) {
 }
 
 bool CanUndo(const frmMain& Main) {
-    return !Main.Group.UndoStack.empty();
+    return !Main.Group.UndoStack.empty() && MayMoveShortcuts(Main);
 }
 bool CanRedo(const frmMain& Main) {
-    return !Main.Group.RedoStack.empty();
+    return !Main.Group.RedoStack.empty() && MayMoveShortcuts(Main);
 }
 bool HasHistory(const frmMain& Main) {
-    return CanUndo(Main) || CanRedo(Main);
+    return !Main.Group.UndoStack.empty() || !Main.Group.RedoStack.empty();
 }
 bool HasShortcuts(const frmMain& Main) {
     return Live(Main.Shortcuts).begin() != Live(Main.Shortcuts).end();

@@ -70,7 +70,7 @@ void StartGlobalHotkey(frmMain& Main) {
     if (RegisterGlobalHotkey(Main, settings.GlobalHotkeyChar, settings.GlobalHotkeyMod)) return;
     if (!HasSettingsFile(Main)) return;
     TellRefusal(Main);
-    if (!Main.IsExiting) ShowSettingsDialog(Main, SettingsPage::FrameKBNavigation, true);
+    ShowSettingsDialog(Main, SettingsPage::FrameKBNavigation, true);
 }
 
 } // namespace quill

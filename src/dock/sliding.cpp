@@ -316,7 +316,6 @@ void TimerHide_Timer(frmMain& Main) {
 }
 
 void TopMostUpkeep(frmMain& Main) {
-    if (!Main.Dock.MiniDock.Visible) return;
     for (const auto& window : Main.P.Windows.Stacking()) {
         if (window.Ours == MiniDockWindow) return;
         if (window.PanelEdge == 0 || window.PanelEdge != Main.Dock.LastDockPosition) continue;

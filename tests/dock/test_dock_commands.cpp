@@ -374,9 +374,13 @@ TEST_F(DockCommands, BehindAnOpenDialogTheHotkeyOnlyBringsForward) {
     desk.PressHotkey();
     desk.Wait(500);
     EXPECT_EQ(State(), "out");
+    EXPECT_TRUE(HasKeyboard());
     desk.OtherProgram();
     desk.PressHotkey();
     EXPECT_TRUE(HasKeyboard());
+    desk.MoveWindow(PlaceAt(0));
+    desk.PressHotkey();
+    EXPECT_EQ(State(), "floating") << "nor hides it";
 }
 
 TEST_F(DockCommands, PressedAgainAndAgainTheHotkeyNeverLosesTheWorkspace) {

@@ -82,8 +82,9 @@ TEST_F(MiniDock, ItWaitsOffTheScreenUntilItIsLaid) {
 }
 
 TEST_F(MiniDock, ItIsUnloadedWithItsTimersWhenTheWorkspaceIsOut) {
-    StartDocked(Left);
-    ASSERT_TRUE(clock.IsRunning(hoverTimer) || It().Loaded);
+    StartAt(Left);
+    DockMe(Main(), Left, false);
+    ASSERT_TRUE(clock.IsRunning(hoverTimer) && clock.IsRunning(flashTimer));
     desk.PressHotkey();
     EXPECT_FALSE(desk.BarShows());
     EXPECT_FALSE(It().Loaded);
@@ -164,6 +165,16 @@ TEST_F(MiniDock, AfterALeaveEventThePointerIsNotOnTheBarWhateverItsPlaceSays) {
     EXPECT_EQ(State(), "docked");
 }
 
+TEST_F(MiniDock, AMoveOverTheBarTellsThatThePointerIsBackAlsoWhereNoEnterIsTold) {
+    StartResting();
+    desk.PointAtBar();
+    Form_MouseLeave(Main(), MiniDockWindow);
+    desk.Wait(300);
+    MouseMove(Main(), {SurfaceKind::MiniDock, -1}, MouseEvent{});
+    desk.Wait(260);
+    EXPECT_EQ(State(), "out");
+}
+
 TEST_F(MiniDock, AMouseThatIsThereWhenTheBarComesOpensWithinHalfASecond) {
     StartAt(Left);
     desk.MoveMouse({5, 7500});
@@ -177,10 +188,10 @@ TEST_F(MiniDock, AMouseThatIsThereWhenTheBarComesOpensWithinHalfASecond) {
 }
 
 TEST_F(MiniDock, AMoveThatComesAfterItHasOpenedIsForNobody) {
-    StartResting({"[Undock Immediately]", "1"});
-    desk.PointAtBar();
+    StartResting();
+    desk.PressHotkey();
     ASSERT_EQ(State(), "out");
-    MouseEvent late;
+    const MouseEvent late;
     MouseMove(Main(), {SurfaceKind::MiniDock, -1}, late);
     EXPECT_EQ(State(), "out");
     EXPECT_FALSE(clock.IsRunning(hoverTimer));

@@ -1,14 +1,8 @@
 #include "dock/sliding.h"
 
-#include "appearance/effects.h"
-#include "containers/lifecycle.h"
-#include "core/caption.h"
-#include "core/objects.h"
 #include "core/start.h"
 #include "dock/dock_fixture.h"
 #include "persistence/save.h"
-#include "shortcuts/create.h"
-#include "shortcuts/launch.h"
 
 #include <algorithm>
 
@@ -16,72 +10,11 @@ namespace quill::test {
 namespace {
 
 struct Sliding : DockFixture {
-    void Screens(const std::vector<Monitor>& screens) { windows.Screens = screens; }
     std::string Frame() {
         desk.Wait(20);
         return fake::Words(Window()) + " " + std::to_string(Opacity());
     }
 };
-
-// ---- which edge
-
-struct EdgeRow {
-    const char* Where;
-    std::vector<Monitor> Screens;
-    Rect Window;
-    int Edge;
-};
-
-const Monitor first = Screen({0, 0, 28800, 16200});
-const std::vector<Monitor> one{first};
-const std::vector<Monitor> sideBySide{first, Screen({28800, 0, 19200, 10800})};
-const std::vector<Monitor> stacked{first, Screen({4800, 16200, 19200, 10800})}; // a narrow one below
-const std::vector<Monitor> diagonal{Screen({0, 0, 19200, 10800}), Screen({19200, 10800, 19200, 10800})};
-const std::vector<Monitor> lowered{first, Screen({28800, 3000, 28800, 16200})}; // and the desktop ends lower
-const std::vector<Monitor> negative{first, Screen({0, -10800, 19200, 10800})};  // above where places begin
-
-const EdgeRow edges[] = {
-    {"in the middle", one, {3000, 3000, 9000, 6000}, 0},
-    {"a twip from everything", one, {1, 1, 28798, 16198}, 0},
-    {"at the right", one, {19800, 3000, 9000, 6000}, Right},
-    {"across the right", one, {26000, 3000, 9000, 6000}, Right},
-    {"at the left", one, {0, 3000, 9000, 6000}, Left},
-    {"across the left", one, {-200, 3000, 9000, 6000}, Left},
-    {"at the top", one, {3000, 0, 9000, 6000}, Top},
-    {"at the bottom", one, {3000, 10200, 9000, 6000}, Bottom},
-    {"right before left", one, {0, 3000, 28800, 6000}, Right},
-    {"right before top", one, {19800, 0, 9000, 6000}, Right},
-    {"left before top", one, {0, 0, 9000, 6000}, Left},
-    {"left before bottom", one, {0, 10200, 9000, 6000}, Left},
-    {"top before bottom", one, {3000, 0, 9000, 16200}, Top},
-
-    {"between two monitors, on the first", sideBySide, {19800, 3000, 9000, 6000}, 0},
-    {"at the left of the second", sideBySide, {28800, 3000, 9000, 6000}, 0},
-    {"at the right of the second", sideBySide, {39000, 3000, 9000, 6000}, Right},
-    {"at the bottom of the shorter second", sideBySide, {33000, 4800, 9000, 6000}, 0},
-
-    {"between two monitors, above", stacked, {9000, 10200, 9000, 6000}, 0},
-    {"at the top of the lower", stacked, {9000, 16200, 9000, 6000}, 0},
-    {"at the left of the narrower", stacked, {4800, 18000, 9000, 6000}, 0},
-    {"at the right of the narrower", stacked, {15000, 18000, 9000, 6000}, 0},
-    {"at the bottom of the lower", stacked, {9000, 21000, 9000, 6000}, Bottom},
-
-    {"at the top of the lowered second", lowered, {33000, 3000, 9000, 6000}, 0},
-    {"at the bottom of the first, with a lower one beside it", lowered, {3000, 10200, 9000, 6000}, 0},
-    {"at the bottom of the lowered second", lowered, {33000, 13200, 9000, 6000}, Bottom},
-
-    {"at the top of one that lies above all", negative, {3000, -10800, 9000, 6000}, Top},
-    {"at its real bottom: the top of the desktop is left out", negative, {3000, 10200, 9000, 6000}, 0},
-    {"where the desktop's height ends", negative, {3000, 21000, 9000, 6000}, Bottom},
-};
-
-TEST_F(Sliding, TheEdgeThatAWindowTouchesIsOneOfTheWholeDesktop) {
-    Start({3000, 3000, 9000, 6000});
-    for (const auto& row : edges) {
-        Screens(row.Screens);
-        EXPECT_EQ(EdgeOfWindow(Main(), row.Window), row.Edge) << row.Where;
-    }
-}
 
 // ---- when it goes
 
@@ -208,7 +141,7 @@ TEST_F(Sliding, TheToolStripCountsAsTheWorkspaceForThePointer) {
 }
 
 TEST_F(Sliding, NothingDocksWhileADialogIsOpenAndTheCountForUpdatesGoesOn) {
-    StartAt(Left);
+    StartAt(Left, {"[Animate]", "0"});
     desk.LeaveWorkspace();
     {
         const DialogPause outer(Main());
@@ -320,8 +253,8 @@ const SlideRow slides[] = {
      {{-500, 4500, 1600, 1600}, {-1000, 4500, 1600, 1600}, {-1500, 4500, 1600, 1600}},
      {-500, 0}},
     {Right,
-     {27200, 4500, 1600, 1600},
-     {{27700, 4500, 1600, 1600}, {28200, 4500, 1600, 1600}, {28700, 4500, 1600, 1600}},
+     {27100, 4500, 1700, 1600},
+     {{27600, 4500, 1700, 1600}, {28100, 4500, 1700, 1600}, {28600, 4500, 1700, 1600}},
      {500, 0}},
     {Bottom,
      {9000, 14600, 1600, 1600},
@@ -479,6 +412,13 @@ TEST_F(Sliding, DockedOnlyTheBarIsOnTheScreenAndItIsOnTop) {
     EXPECT_FALSE(desk.WorkspaceShows());
     EXPECT_FALSE(Main().View.Visible);
     EXPECT_TRUE(windows.Of(MiniDockWindow).OnTop);
+}
+
+TEST_F(Sliding, DockingForgetsThatTheStackingOrderWasSetWhileFloating) {
+    StartAt(0);
+    Leave();
+    EXPECT_TRUE(Dock().ZOrderAsserted);
+    DockMe(Main(), Left, false);
     EXPECT_FALSE(Dock().ZOrderAsserted);
 }
 
@@ -578,308 +518,10 @@ TEST_F(Sliding, KeptOnTopOrNotIsWhatTheSettingSaysAfterComingOut) {
     EXPECT_FALSE(windows.Of(MainWindow).OnTop);
     desk.StopWorkspace();
     StartDocked(Left);
-    desk.PressHotkey();
+    windows.SetWindowOnTop(MainWindow, false);
+    desk.PointAtBar();
+    desk.Wait(600);
     EXPECT_TRUE(windows.Of(MainWindow).OnTop);
-}
-
-// ---- several monitors
-
-struct LayoutRow {
-    const char* Where;
-    std::vector<Monitor> Screens;
-    Rect Window;
-    int Edge; // 0: it floats
-    Rect Parked, Out;
-};
-
-const LayoutRow layouts[] = {
-    {"the left edge of a second monitor is none of the desktop's",
-     sideBySide,
-     {28800, 3000, 9000, 6000},
-     0,
-     {},
-     {}},
-    {"the right edge of the first is none either", sideBySide, {19800, 3000, 9000, 6000}, 0, {}, {}},
-    {"the far right",
-     sideBySide,
-     {39000, 3000, 9000, 6000},
-     Right,
-     {47970, 3000, 9000, 6000},
-     {39200, 3000, 9000, 6000}},
-    {"the left of the first",
-     sideBySide,
-     {0, 3000, 9000, 6000},
-     Left,
-     {-8950, 3000, 9000, 6000},
-     {-200, 3000, 9000, 6000}},
-    {"the top of the second",
-     sideBySide,
-     {33000, 0, 9000, 6000},
-     Top,
-     {33000, -5960, 9000, 6000},
-     {33000, -100, 9000, 6000}},
-    {"the bottom of a shorter second", sideBySide, {33000, 4800, 9000, 6000}, 0, {}, {}},
-    {"the bottom of the first",
-     sideBySide,
-     {3000, 10200, 9000, 6000},
-     Bottom,
-     {3000, 16170, 9000, 6000},
-     {3000, 10400, 9000, 6000}},
-    {"the bottom of the upper one", stacked, {9000, 10200, 9000, 6000}, 0, {}, {}},
-    {"the bottom of the lower one",
-     stacked,
-     {9000, 21000, 9000, 6000},
-     Bottom,
-     {9000, 26970, 9000, 6000},
-     {9000, 21200, 9000, 6000}},
-    {"the right of the wider one above",
-     stacked,
-     {19800, 3000, 9000, 6000},
-     Right,
-     {28770, 3000, 9000, 6000},
-     {20000, 3000, 9000, 6000}},
-    {"the right of the narrower one below", stacked, {15000, 18000, 9000, 6000}, 0, {}, {}},
-    {"the bottom of a lowered second",
-     lowered,
-     {33000, 13200, 9000, 6000},
-     Bottom,
-     {33000, 19170, 9000, 6000},
-     {33000, 13400, 9000, 6000}},
-};
-
-TEST_F(Sliding, OnSeveralMonitorsOnlyTheOutsideEdgesDockAndItComesBackWhereItWas) {
-    for (const auto& row : layouts) {
-        Screens(row.Screens);
-        Start(row.Window);
-        Leave();
-        EXPECT_EQ(Dock().DockPosition, row.Edge) << row.Where;
-        if (row.Edge == 0) {
-            EXPECT_EQ(State(), "floating") << row.Where;
-            EXPECT_EQ(Window(), row.Window) << row.Where;
-        } else {
-            EXPECT_EQ(State(), "docked") << row.Where;
-            EXPECT_EQ(Window(), row.Parked) << row.Where;
-            desk.PointAtBar();
-            desk.Wait(600);
-            EXPECT_EQ(State(), "out") << row.Where;
-            EXPECT_EQ(Window(), row.Out) << row.Where;
-        }
-        desk.StopWorkspace();
-    }
-}
-
-TEST_F(Sliding, MonitorsOfAnotherScalingCountByTheirSizeInTwips) {
-    Screens({first, Screen({28800, 0, 14400, 8100})}); // 1920 by 1080 at 200 percent
-    Start({34200, 1500, 9000, 6000});
-    Leave();
-    EXPECT_EQ(Dock().DockPosition, Right);
-    EXPECT_EQ(Window().Left, 28800 + 14400 - 30);
-    desk.PressHotkey();
-    EXPECT_EQ(Window(), (Rect{28800 + 14400 - 9000 + 200, 1500, 9000, 6000}));
-}
-
-TEST_F(Sliding, PlacesBetweenTwoPixelsAreNoMove) {
-    Start({0, 4500.4F, 9000.3F, 6000});
-    Leave();
-    ASSERT_EQ(State(), "docked");
-    Main().View.Visible = true; // something shows it
-    desk.Wait(3000);
-    EXPECT_EQ(Dock().DockPosition, Left);
-}
-
-// The workspace may dock at an edge where the monitor it floats on ends nowhere near that edge.
-TEST_F(Sliding, DockedBetweenTwoMonitorsItComesOutWhereItsBarIs) {
-    Screens({Screen({0, 0, 19200, 10800}), Screen({19200, 0, 28800, 16200})});
-    Start({39000, 3000, 9000, 6000});
-    Leave();
-    ASSERT_EQ(Dock().DockPosition, Right);
-    desk.PressHotkey();
-    desk.CarryWindow({6000, 2000, 9000, 6000}); // onto the left one
-    mnuDockNow_Click(Main());
-    EXPECT_EQ(State(), "docked");
-    EXPECT_EQ(Bar().Left, 19200 - 30);
-    desk.PointAtBar();
-    desk.Wait(600);
-    EXPECT_EQ(Window(), (Rect{19200 - 9000 + 200, 2000, 9000, 6000}));
-}
-
-TEST_F(Sliding, WhereTheScreensLeaveTheEdgeEmptyBarAndWorkspaceMoveAlongItIntoView) {
-    Screens(diagonal);
-    Start({0, 3000, 9000, 6000});
-    Leave();
-    ASSERT_EQ(Dock().DockPosition, Left);
-    desk.PressHotkey();
-    desk.CarryWindow({24000, 14000, 9000, 6000}); // on the lower right one, whose left is not the desktop's
-    mnuDockNow_Click(Main());
-    EXPECT_EQ(State(), "docked");
-    EXPECT_EQ(Bar(), (Rect{0, 4800 + 1750, 40, 2500}));
-    desk.PointAtBar();
-    desk.Wait(600);
-    EXPECT_EQ(State(), "out");
-    EXPECT_EQ(Window(), (Rect{-200, 10800 - 6000, 9000, 6000}));
-    desk.Wait(5000);
-    EXPECT_EQ(State(), "out") << "and it is under the mouse";
-}
-
-TEST_F(Sliding, AtTheBottomOfADesktopThatBeginsAboveZeroNothingIsLost) {
-    Screens(negative);
-    Start({3000, 3000, 9000, 6000});
-    desk.LeaveWorkspace();
-    DockMe(Main(), Bottom, false);
-    EXPECT_EQ(State(), "docked");
-    desk.PressHotkey();
-    EXPECT_EQ(State(), "floating");
-    EXPECT_TRUE(first.Place.Contains(Window().Left, Window().Top)) << fake::Words(Window());
-}
-
-TEST_F(Sliding, AWindowNearlyBelowTheScreenHasItsBarInReach) {
-    Start({0, 15500, 9000, 6000});
-    Leave();
-    ASSERT_EQ(Dock().DockPosition, Left);
-    EXPECT_EQ(Bar(), (Rect{0, 15500, 40, 700}));
-    desk.PointAtBar();
-    desk.Wait(10'000);
-    EXPECT_EQ(State(), "out");
-}
-
-TEST_F(Sliding, ABarIsNeverBesideThePlaceWhereTheWorkspaceComesOutOrItWouldComeAndGoForEver) {
-    Screens({Screen({0, 0, 19200, 10800}), Screen({19200, 0, 28800, 16200})});
-    Start({10900, 10200, 9000, 6000}); // most of it where no screen is
-    Leave();
-    ASSERT_EQ(Dock().DockPosition, Bottom);
-    EXPECT_EQ(Bar(), (Rect{19200, 16170, 700, 40}));
-    desk.PointAtBar({340, 0});
-    desk.Wait(10'000);
-    EXPECT_EQ(State(), "out");
-}
-
-// ---- monitors that change
-
-TEST_F(Sliding, UnpluggedWhileDockedItDocksAtTheSameEdgeOfWhatIsLeft) {
-    Screens(sideBySide);
-    Start({39000, 3000, 9000, 6000});
-    Leave();
-    ASSERT_EQ(Dock().DockPosition, Right);
-    desk.ChangeScreens(one);
-    EXPECT_EQ(State(), "docked");
-    EXPECT_EQ(Dock().DockPosition, Right);
-    EXPECT_EQ(Window(), (Rect{28770, 5100, 9000, 6000})) << "in the middle of the edge";
-    EXPECT_EQ(Bar(), (Rect{28770, 5100 + 1750, 40, 2500}));
-    desk.PointAtBar();
-    desk.Wait(600);
-    EXPECT_EQ(Window(), (Rect{20000, 5100, 9000, 6000}));
-}
-
-TEST_F(Sliding, PluggedAgainWhileDockedItGoesBackToTheOutsideEdge) {
-    Screens(sideBySide);
-    Start({39000, 3000, 9000, 6000});
-    Leave();
-    desk.ChangeScreens(one);
-    desk.ChangeScreens(sideBySide);
-    EXPECT_EQ(State(), "docked");
-    EXPECT_EQ(Window(), (Rect{47970, 2400, 9000, 6000}));
-    EXPECT_EQ(Bar().Left, 47970);
-}
-
-TEST_F(Sliding, WithSeveralPluggedAtOnceTheOutermostOneIsTaken) {
-    StartDocked(Right);
-    desk.ChangeScreens({first, Screen({28800, 0, 28800, 16200}), Screen({57600, 0, 28800, 16200})});
-    EXPECT_EQ(State(), "docked");
-    EXPECT_EQ(Bar().Left, 86400 - 30);
-    desk.PressHotkey();
-    EXPECT_EQ(EdgeOfWindow(Main(), Window()), Right);
-}
-
-TEST_F(Sliding, ANewResolutionDocksItAtTheNewEdge) {
-    for (const int at : {Top, Left, Right, Bottom}) {
-        StartDocked(at);
-        desk.ChangeScreens({Screen({0, 0, 19200, 10800})});
-        EXPECT_EQ(State(), "docked") << at;
-        EXPECT_EQ(Dock().DockPosition, at);
-        desk.PressHotkey();
-        EXPECT_EQ(State(), "out") << at;
-        EXPECT_EQ(EdgeOfWindow(Main(), Window()), at);
-        desk.StopWorkspace();
-        Screens(one);
-    }
-}
-
-TEST_F(Sliding, AWorkspaceLargerThanItsNewScreenIsMadeToFitUnlessItsPositionIsLocked) {
-    StartDocked(Left);
-    desk.ChangeScreens({Screen({0, 0, 7500, 4500})});
-    EXPECT_EQ(Window().Width, 7500);
-    EXPECT_EQ(Window().Height, 4500);
-    desk.StopWorkspace();
-    Screens(one);
-    StartDocked(Left, {"[PreventWindowMovement]", "1"});
-    desk.ChangeScreens({Screen({0, 0, 7500, 4500})});
-    EXPECT_EQ(State(), "docked");
-    EXPECT_EQ(Window().Width, 9000);
-    EXPECT_EQ(Window().Height, 6000);
-}
-
-TEST_F(Sliding, APanelThatComesOrGoesLeavesADockedWorkspaceWhereItIs) {
-    StartDocked(Left);
-    windows.Log.clear();
-    desk.ChangeScreens({{first.Place, {0, 600, 28800, 15600}}});
-    EXPECT_EQ(State(), "docked");
-    EXPECT_EQ(Bar(), (Rect{0, 6250, 40, 2500}));
-    EXPECT_TRUE(windows.Log.empty()) << windows.Log.front();
-}
-
-TEST_F(Sliding, AChangeOfMonitorsShowsNothingOnTheWay) {
-    StartDocked(Left);
-    windows.Log.clear();
-    desk.ChangeScreens({Screen({0, 0, 19200, 10800})});
-    EXPECT_FALSE(Logged("show frmMain"));
-    EXPECT_FALSE(Logged("show frmMain active"));
-    EXPECT_EQ(clock.FramesWanted(), 0);
-}
-
-TEST_F(Sliding, UnpluggedWhileSlidingItIsDockedAtTheNewEdgeAtOnce) {
-    Screens(sideBySide);
-    Start({39000, 3000, 9000, 6000});
-    desk.LeaveWorkspace();
-    DockMe(Main(), Right, true);
-    desk.Wait(60);
-    desk.ChangeScreens(one);
-    EXPECT_EQ(State(), "docked");
-    EXPECT_EQ(Opacity(), 255);
-    EXPECT_EQ(Bar().Left, 28770);
-    desk.Wait(500);
-    EXPECT_EQ(State(), "docked");
-}
-
-TEST_F(Sliding, UnpluggedWhileMaximisedItFillsWhatIsLeftAndIsRestoredIntoView) {
-    Screens(sideBySide);
-    Start({36000, 3000, 9000, 6000});
-    mnuMaximize_Click(Main());
-    EXPECT_EQ(Window(), sideBySide[1].Place);
-    desk.ChangeScreens(one);
-    EXPECT_EQ(State(), "maximised");
-    EXPECT_EQ(Window(), first.Place);
-    mnuMaximize_Click(Main());
-    EXPECT_EQ(Window(), (Rect{28800 - 9000, 3000, 9000, 6000}));
-}
-
-TEST_F(Sliding, UnpluggedWhileHiddenItIsInViewWhenItIsCalled) {
-    Screens(sideBySide);
-    Start({36000, 3000, 9000, 6000});
-    mnuHideAlterDesk_Click(Main());
-    desk.ChangeScreens(one);
-    EXPECT_EQ(State(), "hidden");
-    desk.ClickTray();
-    EXPECT_TRUE(first.Place.Contains(Window().Left, Window().Top));
-    EXPECT_EQ(State(), "out");
-}
-
-TEST_F(Sliding, UnpluggedWhileOutItComesIntoViewAndMayDockThere) {
-    Screens(sideBySide);
-    Start({39000, 3000, 9000, 6000});
-    desk.ChangeScreens(one);
-    EXPECT_EQ(Window(), (Rect{28800 - 9000, 3000, 9000, 6000}));
-    Leave();
-    EXPECT_EQ(State(), "docked");
 }
 
 // ---- the heartbeat while docked
@@ -1010,162 +652,6 @@ TEST_F(Sliding, TheTimeInTheTitleGoesOnWhileDocked) {
     const auto before = Main().View.Caption;
     desk.Wait(61'000);
     EXPECT_NE(Main().View.Caption, before);
-}
-
-// ---- what comes in the middle of a slide
-
-struct MidSlide : Sliding {
-    // Three frames on its way, 1500 twips.
-    void StartSliding(const std::vector<std::string>& more = {}) {
-        StartAt(Left, more);
-        desk.LeaveWorkspace();
-        DockMe(Main(), Left, true);
-        desk.Wait(60);
-        ASSERT_EQ(State(), "sliding");
-        ASSERT_EQ(Window().Left, -1500);
-    }
-    const Rect out{-200, 4500, 9000, 6000};
-};
-
-TEST_F(MidSlide, TheHotkeyBringsItOutAndTheSlideIsOver) {
-    StartSliding();
-    desk.PressHotkey();
-    EXPECT_EQ(State(), "out");
-    EXPECT_EQ(Window(), out);
-    EXPECT_TRUE(HasKeyboard());
-    desk.Wait(500);
-    EXPECT_EQ(State(), "out");
-    EXPECT_EQ(Window(), out);
-}
-
-TEST_F(MidSlide, ASecondStartAndTheTrayBringItOut) {
-    StartSliding();
-    SecondStart(Main(), Summons::Show);
-    EXPECT_EQ(State(), "out");
-    desk.StopWorkspace();
-    StartSliding();
-    desk.ClickTray();
-    EXPECT_EQ(State(), "out");
-}
-
-TEST_F(MidSlide, AHandOnTheTitleTakesItWhereItIs) {
-    StartSliding();
-    const Rect there = Window();
-    desk.CarryWindow({there.Left + 6000, there.Top, there.Width, there.Height});
-    desk.Wait(20);
-    EXPECT_EQ(State(), "floating");
-    EXPECT_EQ(Window().Left, 4500);
-    desk.Wait(2000);
-    EXPECT_EQ(State(), "floating");
-}
-
-TEST_F(MidSlide, MaximisedOnTheWayItStaysSoAndIsRestoredToItsEdge) {
-    StartSliding();
-    mnuMaximize_Click(Main());
-    desk.Wait(40);
-    EXPECT_EQ(State(), "maximised");
-    EXPECT_EQ(Window(), (Rect{0, 0, 28800, 15750}));
-    desk.PressHotkey();
-    EXPECT_EQ(Window(), (Rect{0, 0, 28800, 15750})) << "the hotkey does not take it for a docked one";
-    mnuMaximize_Click(Main());
-    EXPECT_EQ(Window(), out);
-    EXPECT_EQ(State(), "out");
-}
-
-TEST_F(MidSlide, ADialogKeepsTheWorkspaceOutBehindItAndTakesNothingFromIt) {
-    StartSliding({"[GrabFocus]", "1", "[Center Mouse]", "1"});
-    const Point cursor = windows.Cursor;
-    {
-        const DialogPause dialog(Main());
-        desk.Wait(500);
-        EXPECT_EQ(State(), "out");
-        EXPECT_EQ(Window(), out);
-        EXPECT_FALSE(HasKeyboard()) << "the dialog keeps it";
-        EXPECT_EQ(windows.Cursor, cursor);
-    }
-    desk.Wait(2000);
-    EXPECT_EQ(State(), "docked") << "it goes once the dialog has closed";
-}
-
-TEST_F(MidSlide, ADragInItStopsTheSlideWithoutMovingThePointer) {
-    StartSliding({"[Center Mouse]", "1"});
-    const Point cursor = windows.Cursor;
-    Dock().WorkspaceDragging = true;
-    desk.Wait(20);
-    EXPECT_EQ(State(), "out");
-    EXPECT_EQ(windows.Cursor, cursor);
-}
-
-TEST_F(MidSlide, HiddenOnTheWayItIsOutAtItsEdgeWhenItIsCalled) {
-    StartSliding();
-    mnuHideAlterDesk_Click(Main());
-    desk.Wait(500);
-    EXPECT_EQ(State(), "hidden");
-    SecondStart(Main(), Summons::Show);
-    EXPECT_EQ(State(), "out");
-    EXPECT_EQ(Window(), out);
-}
-
-TEST_F(MidSlide, MinimisedOnTheWayItIsOutAtItsEdgeWhenItIsCalled) {
-    for (const char* inTaskbar : {"0", "1"}) {
-        StartSliding({"[ShowInTaskbar]", inTaskbar});
-        desk.Minimize();
-        desk.Wait(500);
-        EXPECT_EQ(State(), *inTaskbar == '0' ? "hidden" : "minimised");
-        EXPECT_EQ(Dock().DockPosition, 0) << "with no bar it is not docked";
-        desk.PressHotkey();
-        EXPECT_EQ(State(), "out");
-        EXPECT_EQ(Window(), out);
-        desk.StopWorkspace();
-    }
-}
-
-TEST_F(MidSlide, SuspendingKeepsItOut) {
-    StartSliding();
-    mnuSuspendSlideOut_Click(Main());
-    EXPECT_EQ(State(), "suspended, out");
-    desk.Wait(3000);
-    EXPECT_EQ(State(), "suspended, out");
-    EXPECT_EQ(Window(), out);
-}
-
-TEST_F(MidSlide, APositionOfTheMenuAndCenteringTakeItThere) {
-    StartSliding();
-    mnuDockPos_Click(Main(), 2);
-    EXPECT_EQ(State(), "out");
-    EXPECT_EQ(Window(), (Rect{28800 - 9000 + 100, 5100, 9000, 6000}));
-    desk.Wait(500);
-    desk.StopWorkspace();
-    StartSliding();
-    mnuCenterWorkspace_Click(Main());
-    desk.Wait(500);
-    EXPECT_EQ(State(), "floating");
-    EXPECT_EQ(Window(), (Rect{9900, 5100, 9000, 6000}));
-}
-
-TEST_F(MidSlide, EscapeAndCollapseNowChangeNothing) {
-    StartSliding();
-    EXPECT_FALSE(CollapseByKey(Main()));
-    mnuDockNow_Click(Main());
-    EXPECT_EQ(State(), "sliding");
-    desk.Wait(200);
-    EXPECT_EQ(State(), "docked");
-}
-
-TEST_F(MidSlide, TheProgramThatEndsSavesThePlaceOutAtTheEdge) {
-    StartSliding();
-    desk.ExitWorkspace();
-    EXPECT_EQ(Saved("[X]"), "-200");
-    EXPECT_EQ(Saved("[Y]"), "4500");
-}
-
-TEST_F(MidSlide, AnotherStartedProgramLeavesTheSlideAlone) {
-    StartSliding();
-    windows.Log.clear();
-    PreLaunch(Main());
-    EXPECT_FALSE(Logged("notontop frmMain"));
-    desk.Wait(200);
-    EXPECT_EQ(State(), "docked");
 }
 
 // ---- what is saved

@@ -8,6 +8,7 @@
 #include "containers/lock.h"
 #include "containers/resize.h"
 #include "containers/rubber_band.h"
+#include "containers/undo.h"
 #include "core/menus.h"
 #include "dock/docking.h"
 #include "fake/canvas.h"
@@ -240,6 +241,20 @@ INSTANTIATE_TEST_SUITE_P(Table, LockedEdit, testing::ValuesIn(edits),
 // ---- what opens nothing
 
 struct LockedWorkspace : LockFixture {};
+
+TEST_F(LockedWorkspace, NothingIsTakenBackThatTheLockHolds) {
+    const std::string before = Places();
+    MoveContainersByKey(Main, 300, 0);
+    ASSERT_NE(Places(), before);
+    const std::string moved = Places();
+    Lock(0);
+    mnuUndoRedo_Click(Main, 0);
+    EXPECT_EQ(Places(), moved);
+    EXPECT_EQ(Main.Group.UndoStack.size(), 1U) << "it can be taken back later";
+    mnuLock_Click(Main);
+    mnuUndoRedo_Click(Main, 0);
+    EXPECT_EQ(Places(), before);
+}
 
 TEST_F(LockedWorkspace, AQuestionThatIsCancelledOpensNothing) {
     Lock(seconds);

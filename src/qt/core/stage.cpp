@@ -93,6 +93,7 @@ MainWidget& Stage::Main() {
     if (main_) return *main_;
     main_ = std::make_unique<MainWidget>(attached_);
     main_->windowHandle()->installEventFilter(this);
+    main_->OnKeyUsed = [this] { Drain(); };
     return *main_;
 }
 

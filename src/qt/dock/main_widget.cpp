@@ -51,6 +51,7 @@ void MainWidget::keyPressEvent(QKeyEvent* event) {
     const bool used =
         attached_.Alive() && Form_KeyDown(*attached_.Main, KeyOf(*event, TypingInto::Workspace));
     event->setAccepted(used);
+    if (used && OnKeyUsed) OnKeyUsed();
 }
 
 // The frame around picBack counts as the workspace, so that its grips reach to the window's very edge.

@@ -8,6 +8,8 @@
 #include <QRect>
 #include <QWidget>
 
+#include <functional>
+
 namespace quill {
 
 class MainWidget : public QWidget {
@@ -15,6 +17,8 @@ public:
     explicit MainWidget(const Attachment& attached);
 
     void PlaceWindow(const QRect& place); // by the logic, or by a drag of ours
+
+    std::function<void()> OnKeyUsed; // before the next key: it may be for what this one has opened
 
 protected:
     bool focusNextPrevChild(bool) override { return false; } // Tab is the workspace's own key
