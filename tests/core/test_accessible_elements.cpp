@@ -4,6 +4,7 @@
 #include "containers/rubber_band.h"
 #include "containers/workspace_fixture.h"
 #include "core/menus.h"
+#include "dock/sliding.h"
 
 namespace quill {
 namespace {
@@ -90,6 +91,19 @@ TEST_F(Accessible, AContainerDoesByNameWhatItsMarksDo) {
     EXPECT_TRUE(DoAction(Main, OnContainer(index), {}, "Expand"));
     Wait(2000);
     EXPECT_FALSE(IsShrunk(Main, index));
+}
+
+TEST_F(Accessible, TheBarBringsTheWorkspaceOutByItsAction) {
+    const SurfaceId bar{SurfaceKind::MiniDock, -1};
+    EXPECT_FALSE(DoAction(Main, bar, {}, "Bring Out")) << "there is no bar yet";
+    Main.View.Visible = true;
+    DockMe(Main, 2, false);
+    ASSERT_EQ(Main.Dock.DockPosition, 2);
+    EXPECT_EQ(Actions(bar), "Bring Out");
+    EXPECT_TRUE(ToldElements(Main, bar).empty()) << "the bar is one thing";
+    EXPECT_TRUE(DoAction(Main, bar, {}, "Bring Out"));
+    EXPECT_EQ(Main.Dock.DockPosition, 0);
+    EXPECT_TRUE(Main.View.Visible);
 }
 
 TEST_F(Accessible, AShortcutStartsByItsActionAndHasAMenu) {

@@ -184,7 +184,8 @@ struct Shown {
     const MenuEntry* Entry = nullptr;
 };
 
-void Collect(const std::string& where, MenuTable table, std::vector<Shown>& lines) {
+// A copy of where: it lies in the list that grows.
+void Collect(std::string where, MenuTable table, std::vector<Shown>& lines) {
     for (const auto& entry : table) {
         lines.push_back({where + " > " + std::string(entry.Caption), table, &entry});
         if (entry.Children) Collect(lines.back().Where, entry.Children(), lines);
