@@ -772,7 +772,8 @@ class SlidingAsItIsTold(Sliding):
     def test_the_bar_can_be_found_and_asked_to_bring_the_workspace_out(self):
         self.open_docked("left")
         bar = until(lambda: self.find("Quillmere Bar"), "the bar is in the tree")
-        self.assertEqual(bar.extents(), self.desktop.geometry(self.bar))
+        until(lambda: bar.extents() == self.desktop.geometry(self.bar),
+              "it is told where it lies: %s" % (bar.extents(),))
         self.assertEqual(bar.actions(), ["Bring Out"])
         bar.do("Bring Out")
         self.await_out()

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QObject>
+#include <QTimer>
 #include <QWidget>
 
 namespace quill::qt {
@@ -11,6 +12,7 @@ namespace {
 
 constexpr std::uint32_t stateAdd = 1, sourcePager = 2;
 constexpr std::uint32_t allDesktops = 0xFFFFFFFF;
+constexpr int looks[] = {200, 1600}; // milliseconds after it was shown
 
 x11::WindowId Id(const QWidget& widget) {
     return x11::IsPresent() ? static_cast<x11::WindowId>(widget.internalWinId()) : 0;
@@ -25,7 +27,7 @@ public:
     }
 
     bool eventFilter(QObject* object, QEvent* event) override {
-        if (object == &widget_ && event->type() == QEvent::Show) TellKind();
+        if (object == &widget_ && event->type() == QEvent::Show) TellKind(), LookAgain();
         return false;
     }
 
@@ -38,6 +40,15 @@ private:
                         {"_NET_WM_STATE_ABOVE", "_NET_WM_STATE_STICKY", "_NET_WM_STATE_SKIP_TASKBAR",
                          "_NET_WM_STATE_SKIP_PAGER"});
         x11::WriteNumbers(window, "_NET_WM_DESKTOP", {allDesktops});
+    }
+
+    // A window manager that is just taking the window may leave the toolkit with a place that was true for a
+    // moment only; then assistive technology and tips would look for it there.
+    void LookAgain() {
+        for (const int later : looks)
+            QTimer::singleShot(later, this, [this] {
+                if (widget_.isVisible()) x11::TellPlace(Id(widget_));
+            });
     }
 
     QWidget& widget_;
