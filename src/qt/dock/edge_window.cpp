@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::uint32_t stateAdd = 1, sourcePager = 2;
 constexpr std::uint32_t allDesktops = 0xFFFFFFFF;
-constexpr int looks[] = {200, 1600}; // milliseconds after it was shown
+constexpr int lookAgain = 250; // milliseconds after it was shown
 
 x11::WindowId Id(const QWidget& widget) {
     return x11::IsPresent() ? static_cast<x11::WindowId>(widget.internalWinId()) : 0;
@@ -45,10 +45,9 @@ private:
     // A window manager that is just taking the window may leave the toolkit with a place that was true for a
     // moment only; then assistive technology and tips would look for it there.
     void LookAgain() {
-        for (const int later : looks)
-            QTimer::singleShot(later, this, [this] {
-                if (widget_.isVisible()) x11::TellPlace(Id(widget_));
-            });
+        QTimer::singleShot(lookAgain, this, [this] {
+            if (widget_.isVisible()) x11::TellPlace(Id(widget_));
+        });
     }
 
     QWidget& widget_;
