@@ -31,15 +31,6 @@ std::vector<int> SelectedLinks(const frmMain& Main) {
     return links;
 }
 
-std::vector<Parent> ParentsOf(const frmMain& Main, const std::vector<int>& links) {
-    std::vector<Parent> parents;
-    for (const int link : links) {
-        const auto& in = Main.LinkView(link).In;
-        if (std::ranges::find(parents, in) == parents.end()) parents.push_back(in);
-    }
-    return parents;
-}
-
 MoveStep PlacesOf(const frmMain& Main, const std::vector<int>& links) {
     MoveStep step;
     for (const int link : links) step.push_back(PlaceNow(Main, MovedKind::Shortcut, link));
@@ -149,6 +140,15 @@ std::optional<double> AskNumber(frmMain& Main, InputQuestion question) {
 }
 
 } // namespace
+
+std::vector<Parent> ParentsOf(const frmMain& Main, const std::vector<int>& links) {
+    std::vector<Parent> parents;
+    for (const int link : links) {
+        const auto& in = Main.LinkView(link).In;
+        if (std::ranges::find(parents, in) == parents.end()) parents.push_back(in);
+    }
+    return parents;
+}
 
 void SortShortcuts(frmMain& Main, SortOrder order) {
     const auto links = SelectedLinks(Main);

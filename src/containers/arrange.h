@@ -3,6 +3,8 @@
 
 #include "core/frmMain.h"
 
+#include <vector>
+
 namespace quill {
 
 enum class SortOrder { Ascending, Descending };
@@ -27,6 +29,8 @@ void mnuAlignContainers_Click(frmMain& Main, int Index);
 // The shortcuts of one parent by its row spacing: those that stand one below the other stay a column and keep
 // their order. Neither undone nor saved here.
 void LayShortcuts(frmMain& Main, Parent in);
+// Where these shortcuts lie, each place once, in the order of the list.
+std::vector<Parent> ParentsOf(const frmMain& Main, const std::vector<int>& links);
 // The first free cell of the columns that fill a parent from its upper left; where the next shortcut goes.
 // Not under a container, and below what is seen only when that is full.
 Point NextFreeCell(const frmMain& Main, Parent in);

@@ -16,7 +16,8 @@ inline constexpr float TitleHeight = 330; // one line of the caption's font with
 // A workspace that touches the upper edge stands 100 twips beyond it: what is read and pressed lies below
 // that.
 inline constexpr float TitleContentTop = 60;
-inline constexpr float CaptionLeft = 120;      // in line with the left edge of the icons of the first column
+// Clear of the screen's edge: a workspace that is out at the left stands 200 twips beyond it.
+inline constexpr float CaptionLeft = 270;
 inline constexpr float CaptionNarrower = 1350; // leaves the room of the buttons at the right
 inline constexpr float ButtonEdge = 240;       // 16 pixels, the size that the button sets are drawn for
 inline constexpr float DockFromRight = 16 * 15 + 130;

@@ -1,5 +1,6 @@
 #include "shortcuts/selected.h"
 
+#include "containers/arrange.h"
 #include "containers/layout.h"
 #include "containers/lock.h"
 #include "containers/scroll.h"
@@ -32,15 +33,6 @@ std::vector<int> SelectedNow(const frmMain& Main) {
 void LayScrollBars(frmMain& Main, const std::vector<Parent>& parents) {
     for (const auto& in : parents)
         if (in.Kind == ParentKind::ContainerFrame) LayScrollBar(Main, in.Index);
-}
-
-std::vector<Parent> ParentsOf(const frmMain& Main, const std::vector<int>& links) {
-    std::vector<Parent> parents;
-    for (const int link : links) {
-        const auto& in = Main.LinkView(link).In;
-        if (std::ranges::find(parents, in) == parents.end()) parents.push_back(in);
-    }
-    return parents;
 }
 
 void SetBold(frmMain& Main, int link, bool bold) {

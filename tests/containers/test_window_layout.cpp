@@ -1,6 +1,8 @@
 #include "containers/workspace_fixture.h"
 
 #include "core/caption.h"
+#include "dock/docking.h"
+#include "dock/edges.h"
 
 namespace quill {
 namespace {
@@ -25,11 +27,17 @@ TEST_F(WindowLayout, WhileLoadingTheWindowIsLaidOutOnlyAtTheEnd) {
 
 TEST_F(WindowLayout, TheTitleRowFollowsTheWidth) {
     EXPECT_EQ(fake::Words(Main.View.picMoveMe.Place), "0,0 12000x330");
-    EXPECT_EQ(fake::Words(Main.View.lblCaption.Place), "120,60 10650x270");
+    EXPECT_EQ(fake::Words(Main.View.lblCaption.Place), "270,60 10650x270");
     EXPECT_EQ(fake::Words(Main.View.PicDock.Place), "11630,75 240x240");
     EXPECT_EQ(fake::Words(Main.View.PicLockToolbar.Place), "11310,75 240x240");
     EXPECT_EQ(fake::Words(Main.View.PicUnLockToolbar.Place), "11310,75 240x240");
     EXPECT_EQ(fake::Words(Main.View.PicMenu.Place), "10990,75 240x240");
+}
+
+TEST_F(WindowLayout, TheCaptionIsWholeWhenTheWorkspaceIsOutAtTheLeft) {
+    const Rect out = OutPlace(Main, 2, Main.View.Window);
+    const float left = out.Left + Main.View.picBack.Place.Left + Main.View.lblCaption.Place.Left;
+    EXPECT_GE(left, VirtualDesktop(Main).Left);
 }
 
 TEST_F(WindowLayout, OneOfTheTwoLocksIsSeen) {
