@@ -5,6 +5,7 @@
 #include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QRegion>
 #include <QScreen>
@@ -162,7 +163,12 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override {
         if (object == &widget_ && event->type() == QEvent::Show) Shown();
         if (object == &widget_ && event->type() == QEvent::Hide) told_ = false;
-        if (object != &widget_ && event->type() == QEvent::MouseButtonPress) Clicked();
+        if (object == &widget_) return false;
+        if (event->type() == QEvent::DragEnter) x11::TellPlace(Id(widget_));
+        if (event->type() == QEvent::MouseButtonPress) {
+            CheckPlace(static_cast<const QMouseEvent&>(*event));
+            Clicked();
+        }
         return false;
     }
 
@@ -222,6 +228,13 @@ private:
     void FocusMoved(QWindow* window) {
         if (!window) lifted_ = false;
         Apply();
+    }
+
+    // A busy window manager may have left the toolkit with a wrong place, and what is dragged is led by it. A
+    // press tells the true one for nothing; what others drag here does not, so there the server is asked.
+    void CheckPlace(const QMouseEvent& press) {
+        const QPoint corner = (press.globalPosition() - press.position()).toPoint();
+        if (corner != widget_.windowHandle()->position()) x11::TellPlace(Id(widget_));
     }
 
     // Some window managers give a dock no keyboard for a click.
