@@ -148,6 +148,8 @@ public:
         if (told_) TellListed();
     }
 
+    void Call() { called_ = true; }
+
     void Lift() {
         lifted_ = true;
         Apply();
@@ -162,7 +164,7 @@ public:
 
     bool eventFilter(QObject* object, QEvent* event) override {
         if (object == &widget_ && event->type() == QEvent::Show) Shown();
-        if (object == &widget_ && event->type() == QEvent::Hide) told_ = false;
+        if (object == &widget_ && event->type() == QEvent::Hide) told_ = called_ = false;
         if (object == &widget_) return false;
         if (event->type() == QEvent::DragEnter) x11::TellPlace(Id(widget_));
         if (event->type() == QEvent::MouseButtonPress) {
@@ -213,14 +215,16 @@ private:
 
     void EndWatch() { watched_ = false; }
 
-    // The toolkit sends only what it has not sent before, so the size is another one for a moment.
+    // The toolkit sends only what it has not sent before, so the size is another one for a moment. Whoever
+    // did not have the keyboard in mind does not get it by this.
     void ShowAgain() {
+        const bool called = called_;
         const QRect place = widget_.geometry();
         widget_.hide();
         widget_.resize(place.width() + 1, place.height());
         widget_.setGeometry(place);
         widget_.show();
-        TakeFocus(widget_);
+        if (called) TakeFocus(widget_);
     }
 
     void Soon(void (WorkspaceWindow::*action)()) { QTimer::singleShot(0, this, action); }
@@ -327,6 +331,7 @@ private:
     bool beyond_ = false; // reaches over the edge of the screens
     bool lifted_ = false; // raised on purpose since it was last at rest
     bool listed_ = false;
+    bool called_ = false;  // the keyboard was asked for since it was shown
     bool watched_ = false; // it is being looked after whether the window has reached the screen
     Habit habit_ = Habit::ChangesType;
 };
@@ -360,7 +365,7 @@ void RaiseWindow(QWidget& window) {
 }
 
 void TakeFocus(QWidget& window) {
-    if (auto* native = WorkspaceWindow::Of(window)) native->Lift();
+    if (auto* native = WorkspaceWindow::Of(window)) native->Lift(), native->Call();
     if (Id(window)) {
         new FocusRequest(window, Id(window));
         return;
