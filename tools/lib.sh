@@ -10,9 +10,9 @@ packages_for() {
     run) echo "fonts-dejavu-core breeze-icon-theme qt6-image-formats-plugins" ;;
     virtual) echo "xvfb openbox dbus x11-utils x11-xserver-utils imagemagick" ;;
     test) echo "python3 xvfb openbox picom dbus xdotool x11-utils x11-xserver-utils imagemagick libxtst6 xterm unzip" \
-        "at-spi2-core gir1.2-atspi-2.0 python3-gi trayer" ;;
+        "at-spi2-core gir1.2-atspi-2.0 python3-gi trayer pcmanfm xclip" ;;
     check) echo "python3 clang-format" ;;
-    bench) echo "python3 xvfb openbox libxdamage1 libxtst6 dbus tint2 xfce4-panel" ;;
+    bench) echo "python3 xvfb openbox libxdamage1 libxtst6 dbus tint2 xfce4-panel rofi" ;;
     coverage) echo "python3" ;;
     fuzz) echo "clang" ;;
     *) fail "nobody knows the package list '$1'" ;;

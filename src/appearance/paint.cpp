@@ -66,6 +66,8 @@ void PaintSurface(frmMain& Main, SurfaceId surface, Canvas& canvas, const Shortc
     if (surface.Kind == SurfaceKind::Overlay) return PaintOverlay(Main, canvas);
     if (surface.Kind == SurfaceKind::MiniDock) return PaintMiniDock(Main, canvas);
     if (surface.Kind == SurfaceKind::MiniToolbar) return PaintMiniToolbar(Main, canvas);
+    if (surface.Kind == SurfaceKind::QuickLaunch) return PaintQuickLaunch(Main, canvas);
+    if (surface.Kind == SurfaceKind::JumpTo) PaintJumpTo(Main, canvas);
     if (surface.Kind == SurfaceKind::Picture) PaintPicture(Main, surface.Index, canvas);
     PaintFocus(Main, surface, canvas);
 }

@@ -15,6 +15,8 @@ void PaintOverlay(const frmMain& Main, Canvas& canvas);
 void PaintMiniToolbar(const frmMain& Main, Canvas& canvas);
 void PaintPicture(frmMain& Main, int Index, Canvas& canvas);
 void PaintMiniDock(const frmMain& Main, Canvas& canvas);
+void PaintJumpTo(frmMain& Main, Canvas& canvas);
+void PaintQuickLaunch(frmMain& Main, Canvas& canvas);
 
 // What lies behind the captions of shortcuts.
 struct Ground {

@@ -76,12 +76,22 @@ void PaintCaption(frmMain& Main, EruLabel label, const Ground& ground, Canvas& c
     PaintEruLabel(canvas, label, Main.Settings.FontName, style);
 }
 
+// What a drop would open stands on a plate, and on the opposite one where it had one already.
+void StandOut(const frmMain& Main, int index, EruLabel& label) {
+    const bool selected = label.BackStyle == 1;
+    label.BackColor = selected ? label.ForeColor : ShortcutInk(Main, index);
+    label.ForeColor = selected ? ShortcutInk(Main, index) : ExtremeOn(label.BackColor);
+    label.BackStyle = 1;
+    label.BorderRadius = 2;
+}
+
 void PaintShortcut(frmMain& Main, int index, const Ground& ground, Canvas& canvas) {
     TakeShortcutStyle(Main, index);
     if (!Main.LinkView(index).LabelMeasured) SetNewLinkHeight(Main, index);
     const Rect icon = Shifted(Main.LinkView(index).picShortcut, ground.Origin);
     EruLabel label = Main.LinkView(index).lblShortcut;
     label.Place = Shifted(label.Place, ground.Origin);
+    if (Main.Links.OpenWithTarget == index) StandOut(Main, index, label);
     if (canvas.Exposed().Intersects(icon)) PaintIcon(Main, index, icon, ShortcutInk(Main, index), canvas);
     if (canvas.Exposed().Intersects(Inset(label.Place, -CaptionReach)))
         PaintCaption(Main, label, ground, canvas);

@@ -1,10 +1,13 @@
 #include "appearance/settings_controls.h"
 
+#include "keyboard/web_search.h"
 #include "persistence/text_values.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <iterator>
+#include <vector>
 
 namespace quill {
 namespace {
@@ -15,6 +18,8 @@ using Kind = SettingsControlKind;
 using enum SettingsPage;
 
 constexpr std::int16_t leastOpacity = 10, mostOpacity = 250;
+constexpr std::int32_t leastHistory = 5, mostHistory = 50;
+constexpr int addressLimit = 2048; // in characters
 
 // ---- choices whose entries stand for numbers
 
@@ -74,6 +79,41 @@ int ReadShrinkSize(const S& settings) {
 void WriteShrinkSize(S& settings, int place) {
     settings.ConShrinkW = shrinkSteps[place].Width;
     settings.ConShrinkH = shrinkSteps[place].Height;
+}
+
+// ---- the address of the web search, and the engines that are offered for it
+
+constexpr const char* noEngine = "Select...";
+
+// An engine's name is a name, and the same in every language.
+SettingsEntries EngineEntries() {
+    static const auto names = [] {
+        std::vector<std::string> all;
+        for (const auto& engine : SearchEngines()) all.emplace_back(engine.Name);
+        return all;
+    }();
+    static const auto entries = [] {
+        std::vector<SettingsEntry> all{{noEngine}};
+        for (const auto& name : names) all.push_back({name.c_str()});
+        return all;
+    }();
+    return entries;
+}
+
+int EngineOf(const std::string& address) {
+    const auto engines = SearchEngines();
+    const auto found = std::ranges::find(engines, std::string_view(address), &SearchEngine::Address);
+    return found == engines.end() ? 0 : static_cast<int>(found - engines.begin()) + 1;
+}
+
+void FollowEngine(V& values) {
+    const auto engines = SearchEngines();
+    const auto place = static_cast<std::size_t>(values.CboSearchEngines);
+    if (values.CboSearchEngines > 0 && place <= engines.size())
+        values.txtWebSearch = engines[place - 1].Address;
+}
+void FollowAddress(V& values) {
+    values.CboSearchEngines = EngineOf(values.txtWebSearch);
 }
 
 // ---- lines of the table
@@ -235,6 +275,20 @@ constexpr SettingsControl controls[] = {
 
     Shortcuts(&S::DblClick, "&Double-Click to Start",
               "Require double-click to start shortcuts from the workspace/containers."),
+    Shortcuts(&S::ConfirmOpenWith, "Confirm '&Open with...'",
+              "Require confirmation when dragging shortcut icons (or files from Windows) on top of other "
+              "shortcut labels."),
+    Shortcuts(
+        &S::ExtractURLs, "&Resolve",
+        "Resolve Windows shortcuts (.lnk and .url files) and point to the file location and website and "
+        "not to the shortcut itself."),
+    Shortcuts(
+        &S::DeleteDesktopShortcuts, "&Delete Desktop Shortcuts",
+        "Move shortcuts dragged to the workspace or containers from the Windows Desktop to the recycling "
+        "bin."),
+    Shortcuts(&S::ContainerFromFolder, "&Container from Folder",
+              "Ask to create a container with shortcuts to the files inside when adding a folder shortcut to "
+              "the workspace."),
     Shortcuts(&S::ShortcutTooltips, "&Tooltips",
               "Show tooltips when hovering over shortcuts (override using the Shift key)."),
     Shortcuts(&S::CommandOverlay, "&Command Icon Overlay",
@@ -265,6 +319,47 @@ constexpr SettingsControl controls[] = {
      .Caption = "Already in use",
      .Tip = "The Global Hotkey could not be registered since it is already in use. ",
      .Beside = true},
+    Keys(
+        &S::ShowKBLauncher, "Open &Keyboard Launcher",
+        "Display the Keyboard Launcher dialog when the workspace is undocked using the Global Hotkey. The "
+        "dialog is automatically shown when entering letters and the workspace is in focus. You can also use "
+        "the arrow keys to select shortcuts."),
+    Keys(&S::KBLauncherTips, "Keyboard Launcher &Tips",
+         "Show tips when the Keyboard Launcher is activated. For more tips please see the online tour."),
+    Keys(&S::KeyboardHistory, "Keyboard Launcher History:",
+         "Keep a history of previously entered commands. Enter \"!\", Alt+H or use the right-click menu to "
+         "show Keyboard Launcher command history."),
+    {.Page = FrameKBNavigation,
+     .Kind = Kind::TextBox,
+     .Name = "txtKBLauncherHistory",
+     .Tip = "The number of items to keep in the history file (5-50).",
+     .Beside = true,
+     .Spoken = "Items in the history",
+     .Text = &V::txtKBLauncherHistory,
+     .TextLimit = 6},
+    Keys(&S::SearchOnSpace, "Start Web Search on Spacebar",
+         "When this option is selected, any sequence of words separated by a space letter will perform a web "
+         "search instead of a shortcut search. Otherwise, enter 's ' plus a search query to start a web "
+         "search."),
+    {.Page = FrameKBNavigation,
+     .Kind = Kind::TextBox,
+     .Name = "txtWebSearch",
+     .Caption = "Web Search:",
+     .Tip = "The address of the web search; %s stands for what is searched for.",
+     .Text = &V::txtWebSearch,
+     .TextLimit = addressLimit,
+     .Follow = &FollowAddress},
+    {.Page = FrameKBNavigation,
+     .Kind = Kind::List,
+     .Name = "CboSearchEngines",
+     .Tip = "Writes the address of a search engine into the box beside it.",
+     .Beside = true,
+     .Spoken = "Search engine",
+     .Choice = &V::CboSearchEngines,
+     .Follow = &FollowEngine},
+    Keys(&S::CalcOrSpeedLaunch, "&Speed Launch / Calculator",
+         "Use the number keys for Speed Launch or to start the calculator. When selected, use = (equal) to "
+         "start the calculator. When unselected, use Ctrl + Number for Speed Launch."),
     {.Page = FrameKBNavigation,
      .Kind = Kind::List,
      .Name = "cboSpacebar",
@@ -288,7 +383,7 @@ constexpr SettingsPageName pages[] = {
 };
 
 bool Offers(const SettingsControl& control, int place) {
-    return place >= 0 && static_cast<std::size_t>(place) < control.Entries.size();
+    return place >= 0 && static_cast<std::size_t>(place) < EntriesOf(control).size();
 }
 
 // Letters are kept as capitals: that is how a keyboard shows them.
@@ -305,6 +400,21 @@ void WriteOpacity(S& settings, const std::string& text) {
             static_cast<std::int16_t>(std::clamp<std::int32_t>(*opacity, leastOpacity, mostOpacity));
 }
 
+void WriteHistoryCount(S& settings, const std::string& text) {
+    if (const auto count = ReadWhole(text))
+        settings.KeyboardHistoryCount = static_cast<float>(std::clamp(*count, leastHistory, mostHistory));
+}
+
+// An address is one line without blanks around it; an emptied box means the first engine again.
+void WriteWebSearch(S& settings, const std::string& text) {
+    settings.WebSearch = std::string(Trimmed(text));
+}
+std::string ShownWebSearch(const S& settings) {
+    const auto engines = SearchEngines();
+    const bool first = settings.WebSearch.empty() && !engines.empty();
+    return first ? std::string(engines.front().Address) : settings.WebSearch;
+}
+
 } // namespace
 
 std::span<const SettingsPageName> SettingsPages() {
@@ -313,14 +423,20 @@ std::span<const SettingsPageName> SettingsPages() {
 std::span<const SettingsControl> SettingsControls() {
     return controls;
 }
+SettingsEntries EntriesOf(const SettingsControl& control) {
+    return control.Choice == &V::CboSearchEngines ? EngineEntries() : control.Entries;
+}
 
 SettingsValues ReadControls(const SettingsRecord& settings) {
     SettingsValues values;
     values.chkSettings = settings;
     for (const auto& control : controls)
-        if (control.Choice != nullptr) values.*control.Choice = control.Read(settings);
+        if (control.Read != nullptr) values.*control.Choice = control.Read(settings);
     values.txtOpacity = std::to_string(settings.Opacity);
     values.txtHotkey = settings.GlobalHotkeyChar;
+    values.txtKBLauncherHistory = std::to_string(std::lround(settings.KeyboardHistoryCount));
+    values.txtWebSearch = ShownWebSearch(settings);
+    FollowAddress(values);
     values.picDockBorder = settings.DockingColor;
     return values;
 }
@@ -329,12 +445,15 @@ void WriteControls(const SettingsValues& now, const SettingsValues& before, Sett
     for (const auto& control : controls) {
         if (const auto field = control.Check; field != nullptr)
             if (now.chkSettings.*field != before.chkSettings.*field) settings.*field = now.chkSettings.*field;
-        if (const auto field = control.Choice; field != nullptr)
+        if (const auto field = control.Choice; field != nullptr && control.Write != nullptr)
             if (now.*field != before.*field && Offers(control, now.*field))
                 control.Write(settings, now.*field);
     }
     if (now.txtOpacity != before.txtOpacity) WriteOpacity(settings, now.txtOpacity);
     if (now.txtHotkey != before.txtHotkey) settings.GlobalHotkeyChar = Capital(now.txtHotkey);
+    if (now.txtKBLauncherHistory != before.txtKBLauncherHistory)
+        WriteHistoryCount(settings, now.txtKBLauncherHistory);
+    if (now.txtWebSearch != before.txtWebSearch) WriteWebSearch(settings, now.txtWebSearch);
     if (now.picDockBorder != before.picDockBorder) settings.DockingColor = now.picDockBorder;
 }
 

@@ -18,7 +18,8 @@ struct SettingsValues {
     int OptSide = 0, OptMiniDock = 0;
     int cboAutoExpand = 0, OptionEffect = 0, cboTips = 0, cboShrinkSize = 0;
     int ComboMods = 0, cboSpacebar = 0;
-    std::string txtOpacity, txtHotkey;
+    int CboSearchEngines = 0; // 0: none of those that are offered
+    std::string txtOpacity, txtHotkey, txtWebSearch, txtKBLauncherHistory;
     Color picDockBorder = 0;
 };
 
@@ -35,8 +36,10 @@ struct SettingsEntry {
     const char* Caption;
     const char* Tip = "";
 };
+using SettingsEntries = std::span<const SettingsEntry>;
 
-// How a choice stands in the settings; only a place of the list is ever written.
+// How a choice stands in the settings; only a place of the list is ever written. One that only fills another
+// control has neither.
 using ReadChoice = int (*)(const SettingsRecord& settings);
 using WriteChoice = void (*)(SettingsRecord& settings, int place);
 
@@ -51,10 +54,11 @@ struct SettingsControl {
     bool SettingsRecord::*Check = nullptr; // of a check box
     int SettingsValues::*Choice = nullptr; // of a list and of options
     std::string SettingsValues::*Text = nullptr;
-    std::span<const SettingsEntry> Entries{}; // of a list and of options
+    SettingsEntries Entries{}; // of a list and of options
     ReadChoice Read = nullptr;
     WriteChoice Write = nullptr;
-    int TextLimit = 0; // characters of a text box
+    int TextLimit = 0;                         // characters of a text box
+    void (*Follow)(SettingsValues&) = nullptr; // what a change of it does to other controls
 };
 
 struct SettingsPageName {
@@ -65,6 +69,7 @@ struct SettingsPageName {
 
 std::span<const SettingsPageName> SettingsPages();   // in the order of the tabs
 std::span<const SettingsControl> SettingsControls(); // page by page, from top to bottom
+SettingsEntries EntriesOf(const SettingsControl& control);
 
 SettingsValues ReadControls(const SettingsRecord& settings);
 // What differs from before goes into the settings; a text that is no number keeps the old one.

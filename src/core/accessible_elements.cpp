@@ -15,7 +15,8 @@ constexpr auto untold = std::to_array<ElementKind>(
     {ElementKind::None, ElementKind::picBack, ElementKind::picMoveMe, ElementKind::Container,
      ElementKind::ContainerFrame, ElementKind::picShortcut, ElementKind::PicContainer, ElementKind::PicImage,
      ElementKind::frmSelection, ElementKind::frmExplode, ElementKind::frmMiniDock,
-     ElementKind::picMiniToolbar});
+     ElementKind::picMiniToolbar, ElementKind::PicJumpToLink, ElementKind::PicJumpToIcon,
+     ElementKind::frmQuickLaunch, ElementKind::picIcon, ElementKind::cboSearch}); // the field tells of itself
 
 bool IsTold(ElementKind kind) {
     return std::ranges::find(untold, kind) == untold.end();
@@ -33,6 +34,8 @@ ElementId GroundOf(const frmMain& Main, SurfaceId surface) {
     if (surface.Kind == SurfaceKind::Picture) return {ElementKind::PicImage, surface.Index};
     if (surface.Kind == SurfaceKind::MiniDock) return {ElementKind::frmMiniDock, -1};
     if (surface.Kind == SurfaceKind::MiniToolbar) return {ElementKind::picMiniToolbar, -1};
+    if (surface.Kind == SurfaceKind::JumpTo) return {ElementKind::PicJumpToLink, -1};
+    if (surface.Kind == SurfaceKind::QuickLaunch) return {ElementKind::frmQuickLaunch, -1};
     const bool tile = surface.Kind == SurfaceKind::Container && IsShrunk(Main, surface.Index);
     return {tile ? ElementKind::ContainerIcon : ElementKind::ContainerLabel, surface.Index};
 }
@@ -46,6 +49,8 @@ bool IsLiveSurface(const frmMain& Main, SurfaceId surface) {
     if (surface.Kind == SurfaceKind::Container) return IsLive(Main.Containers, surface.Index);
     if (surface.Kind == SurfaceKind::Picture) return IsLive(Main.Pictures, surface.Index);
     if (surface.Kind == SurfaceKind::MiniDock) return Main.Dock.MiniDock.Loaded;
+    if (surface.Kind == SurfaceKind::JumpTo) return Main.Keys.PicJumpToLink.Visible;
+    if (surface.Kind == SurfaceKind::QuickLaunch) return Main.Links.QuickLaunch.Loaded;
     return surface.Kind != SurfaceKind::MiniToolbar || Main.Dock.MiniToolbar.Loaded;
 }
 
@@ -95,7 +100,9 @@ void AddPress(const frmMain& Main, const Spot& spot, std::vector<Deed>& deeds) {
 std::vector<Deed> DeedsOfSurface(const frmMain& Main, SurfaceId surface) {
     if (surface.Kind == SurfaceKind::MiniDock)
         return {{Tr(Main, "Bring Out"), {ElementKind::frmMiniDock, -1}}};
-    if (surface.Kind == SurfaceKind::MiniToolbar) return {};
+    const bool noMenu = surface.Kind == SurfaceKind::MiniToolbar || surface.Kind == SurfaceKind::JumpTo ||
+                        surface.Kind == SurfaceKind::QuickLaunch;
+    if (noMenu) return {};
     std::vector<Deed> deeds;
     WalkElements(Main, surface, [&](const Spot& spot) {
         if (surface.Kind == SurfaceKind::Container && SpeaksForContainer(spot.Id.Kind))
@@ -168,6 +175,7 @@ std::optional<ToldPlace> PlaceOfTold(const frmMain& Main, SurfaceId surface, Ele
 bool LiesOn(const frmMain& Main, SurfaceId surface, ElementId element) {
     if (!IsLiveSurface(Main, surface)) return false;
     if (surface.Kind == SurfaceKind::MiniToolbar && IsOfStrip(element)) return true;
+    if (element.Kind == ElementKind::lblSpeedLaunch) return surface.Kind == SurfaceKind::QuickLaunch;
     if (!IsShortcut(element)) return element.Kind == ElementKind::None || element.Index == surface.Index;
     return IsLive(Main.Shortcuts, element.Index) && SurfaceOf(Main.LinkView(element.Index).In) == surface;
 }

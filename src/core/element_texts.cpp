@@ -44,6 +44,17 @@ constexpr Words table[] = {
     {ElementKind::PictureGrip, Role::Grip, "Resize", "", ""},
     {ElementKind::frmSelection, Role::Mark, "Selection", "", ""},
     {ElementKind::frmExplode, Role::Mark, "Effect", "", ""},
+    {ElementKind::PicJumpToLink, Role::Pane, "Keyboard Launcher", "", ""},
+    {ElementKind::PicJumpToIcon, Role::Image, "Icon", "", ""},
+    {ElementKind::lblJumpToLink, Role::Label, "", "", ""},
+    {ElementKind::lblJumpToTip, Role::Label, "", "", ""},
+    {ElementKind::cboSearch, Role::Edit, "Keyboard Launcher", "Edit", ""},
+    {ElementKind::lblHistory, Role::Button, "History", "Open", "History (Alt+H)"},
+    {ElementKind::lblGo, Role::Button, "Go", "Start", "Go (Enter)"},
+    {ElementKind::lblClosePicJumpTo, Role::Button, "Close", "Close", "Close (Esc)"},
+    {ElementKind::frmQuickLaunch, Role::Pane, "Speed Launch", "", ""},
+    {ElementKind::picIcon, Role::Image, "Icon", "", ""},
+    {ElementKind::lblSpeedLaunch, Role::ListItem, "", "Start", ""},
     {ElementKind::picMiniToolbar, Role::Pane, "Selected Shortcuts", "", ""},
     {ElementKind::MiniToolbarButton, Role::Button, "", "", ""},
     {ElementKind::PicLinkColor, Role::Button, "Font Color", "", ""},
@@ -126,6 +137,20 @@ void DescribeMiniToolbarCell(const frmMain& Main, ElementInfo& info) {
     if (MiniToolbarCellWorks(Main, cell)) info.Action = info.Name;
 }
 
+void DescribeSpeedLaunchRow(const frmMain& Main, ElementInfo& info) {
+    const auto& window = Main.Links.QuickLaunch;
+    const auto& row = window.Rows[static_cast<std::size_t>(info.Id.Index)];
+    info.Name = std::to_string(info.Id.Index + 1) + ' ' + row.Caption;
+    info.Selected = window.Selected == info.Id.Index;
+    if (row.Shortcut == -1) info.Action.clear();
+}
+
+// The two lines of the launcher's box say what Enter would do.
+void DescribeJumpToLine(const frmMain& Main, ElementInfo& info) {
+    const auto& box = Main.Keys.PicJumpToLink;
+    info.Name = info.Id.Kind == ElementKind::lblJumpToLink ? box.lblJumpToLink : box.lblJumpToTip;
+}
+
 std::string Translated(const frmMain& Main, std::string_view english) {
     return english.empty() ? std::string() : Tr(Main, english);
 }
@@ -153,6 +178,10 @@ ElementInfo DescribeElement(const frmMain& Main, const Spot& spot) {
         DescribePicture(Main, info);
     else if (spot.Id.Kind == ElementKind::MiniToolbarButton || spot.Id.Kind == ElementKind::PicLinkColor)
         DescribeMiniToolbarCell(Main, info);
+    else if (spot.Id.Kind == ElementKind::lblSpeedLaunch)
+        DescribeSpeedLaunchRow(Main, info);
+    else if (spot.Id.Kind == ElementKind::lblJumpToLink || spot.Id.Kind == ElementKind::lblJumpToTip)
+        DescribeJumpToLine(Main, info);
     return info;
 }
 

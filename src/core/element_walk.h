@@ -9,6 +9,8 @@
 #include "core/objects.h"
 #include "core/surfaces.h"
 #include "dock/mini_toolbar.h"
+#include "keyboard/jump_to.h"
+#include "shortcuts/speed_launch.h"
 
 #include <algorithm>
 
@@ -178,6 +180,26 @@ template <class Visit> bool MiniToolbar(const frmMain& Main, Visit& visit) {
     return Show(visit, ElementKind::PicLinkColor, -1, PlaceOfMiniToolbarCell(MiniToolbarButtons));
 }
 
+template <class Visit> bool JumpTo(const frmMain& Main, Visit& visit) {
+    const auto& box = Main.Keys.PicJumpToLink;
+    const auto part = [&](ElementKind kind) { return Show(visit, kind, -1, PlaceOfJumpToPart(Main, kind)); };
+    return Show(visit, ElementKind::PicJumpToLink, -1, Rect{0, 0, box.Place.Width, box.Place.Height}) &&
+           part(ElementKind::PicJumpToIcon) && part(ElementKind::lblJumpToLink) &&
+           part(ElementKind::cboSearch) && part(ElementKind::lblJumpToTip) &&
+           (!box.lblHistoryVisible || part(ElementKind::lblHistory)) && part(ElementKind::lblGo) &&
+           part(ElementKind::lblClosePicJumpTo);
+}
+
+template <class Visit> bool QuickLaunch(const frmMain& Main, Visit& visit) {
+    const auto& window = Main.Links.QuickLaunch.Place;
+    if (!Show(visit, ElementKind::frmQuickLaunch, -1, Rect{0, 0, window.Width, window.Height})) return false;
+    for (int row = 0; row < SpeedLaunchSlots; ++row)
+        if (!Show(visit, ElementKind::lblSpeedLaunch, row, PlaceOfSpeedLaunchRow(row)) ||
+            !Show(visit, ElementKind::picIcon, row, PlaceOfSpeedLaunchIcon(row)))
+            return false;
+    return true;
+}
+
 } // namespace walk
 
 // Visits every visible element on a surface; false when the visitor ended the walk.
@@ -195,6 +217,10 @@ template <class Visit> bool WalkElements(const frmMain& Main, SurfaceId surface,
         return walk::MiniDock(Main, visit);
     case SurfaceKind::MiniToolbar:
         return walk::MiniToolbar(Main, visit);
+    case SurfaceKind::JumpTo:
+        return walk::JumpTo(Main, visit);
+    case SurfaceKind::QuickLaunch:
+        return walk::QuickLaunch(Main, visit);
     }
     return true;
 }

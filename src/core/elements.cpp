@@ -40,8 +40,19 @@ constexpr auto names = std::to_array<std::string_view>({
     "picMiniToolbar",
     "MiniToolbarButton",
     "PicLinkColor",
+    "PicJumpToLink",
+    "PicJumpToIcon",
+    "lblJumpToLink",
+    "lblJumpToTip",
+    "cboSearch",
+    "lblHistory",
+    "lblGo",
+    "lblClosePicJumpTo",
+    "frmQuickLaunch",
+    "picIcon",
+    "lblSpeedLaunch",
 });
-static_assert(names.size() == static_cast<std::size_t>(ElementKind::PicLinkColor) + 1);
+static_assert(names.size() == static_cast<std::size_t>(ElementKind::lblSpeedLaunch) + 1);
 
 bool FrameIsOpen(const frmMain& Main, int container) {
     if (!IsLive(Main.Containers, container)) return false;
@@ -93,6 +104,7 @@ std::vector<SurfaceId> Surfaces(const frmMain& Main) {
         surfaces.push_back(
             {entry.Kind == KindContainer ? SurfaceKind::Container : SurfaceKind::Picture, entry.Index});
     }
+    surfaces.push_back({SurfaceKind::JumpTo, -1});
     surfaces.push_back({SurfaceKind::Overlay, -1});
     return surfaces;
 }
@@ -111,6 +123,10 @@ Rect PlaceOfSurface(const frmMain& Main, SurfaceId surface) {
         return Main.Dock.MiniDock.Place;
     case SurfaceKind::MiniToolbar:
         return Main.Dock.MiniToolbar.Place;
+    case SurfaceKind::JumpTo:
+        return Main.Keys.PicJumpToLink.Place;
+    case SurfaceKind::QuickLaunch:
+        return Main.Links.QuickLaunch.Place;
     }
     return {};
 }
@@ -129,6 +145,10 @@ bool SurfaceVisible(const frmMain& Main, SurfaceId surface) {
         return Main.Dock.MiniDock.Visible;
     case SurfaceKind::MiniToolbar:
         return Main.Dock.MiniToolbar.Loaded;
+    case SurfaceKind::JumpTo:
+        return Main.Keys.PicJumpToLink.Visible;
+    case SurfaceKind::QuickLaunch:
+        return Main.Links.QuickLaunch.Loaded;
     }
     return false;
 }

@@ -31,6 +31,7 @@ void AddFirstShortcut(frmMain& Main, const FirstShortcut& entry, bool isFirst) {
     Main.Link(index).Tags = "User Folders";
     if (entry.Folder == SpecialFolder::Applications) {
         Main.Link(index).FullCaption = "Programs";
+        ++Main.Links.CaptionsRevision;
         Main.LinkView(index).lblShortcut.Caption = "Programs";
     }
     if (!isFirst) return;

@@ -10,6 +10,7 @@
 #include "core/tables.h"
 #include "core/views.h"
 #include "dock/dock_state.h"
+#include "keyboard/keyboard_state.h"
 #include "persistence/persistence_state.h"
 #include "platform/platform.h"
 #include "shortcuts/shortcuts_state.h"
@@ -56,6 +57,7 @@ struct frmMain {
     WorkspaceView View;
     ContainersState Group; // the containers' room
     ShortcutsState Links;  // the shortcuts' room
+    KeyboardState Keys;    // the Keyboard Launcher
     DockState Dock;
     SystemState System;
     LooksState Looks;

@@ -25,12 +25,14 @@
 #include "dock/sliding.h"
 #include "dock/tray_icon.h"
 #include "dock/workspace_lock.h"
+#include "keyboard/jump_to.h"
 #include "notes/notes.h"
 #include "platform/session.h"
 #include "shortcuts/drags.h"
 #include "shortcuts/drop_target.h"
 #include "shortcuts/launch.h"
 #include "shortcuts/selected.h"
+#include "shortcuts/speed_launch.h"
 #include "system/system_info.h"
 
 #include <algorithm>
@@ -87,6 +89,7 @@ constexpr TimerRow timers[] = {
     {TimerName::TimeLock, &TimeLock_Timer},
     {TimerName::TimerSysInfo, &TimerSysInfo_Timer},
     {TimerName::TimerServices, &TimerServices_Timer},
+    {TimerName::TimeUnload, &TimeUnload_Timer},
 };
 
 // The mouse moves with no button held: tips, and what opens and closes by being pointed at.
@@ -151,6 +154,7 @@ void MouseDown(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (surface.Kind == SurfaceKind::MiniDock) return frmMiniDock_MouseMove(Main, event);
     HideFocus(Main);
     HideTip(Main);
+    if (surface.Kind != SurfaceKind::JumpTo && IsJumpToOpen(Main)) ClosePicJumpTo(Main);
     if (CancelByOtherButton(Main, event)) return;
     Main.Group.PressedTile = -1;
     if (BeginResizeAt(Main, surface, event)) return;
@@ -200,6 +204,7 @@ void MouseMove(frmMain& Main, SurfaceId surface, const MouseEvent& event) {
     if (Main.IsLoading || Main.IsExiting) return;
     if (surface.Kind == SurfaceKind::MiniDock) return frmMiniDock_MouseMove(Main, event);
     if (surface.Kind == SurfaceKind::MiniToolbar) return picMiniToolbar_MouseMove(Main, event);
+    if (surface.Kind == SurfaceKind::QuickLaunch) return QuickLaunch_MouseMove(Main, event);
     Main.Dock.PointerAway = false;
     if (Main.Group.ScrollingContainer != -1) return VScroll_MouseMove(Main, event);
     if (Main.Group.ResizingContainer != -1) return ResizeSymbol_MouseMove(Main, event);

@@ -16,6 +16,7 @@
 #include "core/routes.h"
 #include "dock/dock_commands.h"
 #include "dock/docking.h"
+#include "keyboard/typed_key.h"
 #include "shortcuts/launch.h"
 #include "shortcuts/selected.h"
 
@@ -142,6 +143,11 @@ bool PopupForFocus(frmMain& Main) {
     return true;
 }
 
+bool PopupPosition(frmMain& Main) {
+    PopupMenu(Main, MenuName::Position, {Main.View.Window.Left, Main.View.Window.Top});
+    return true;
+}
+
 // ---- what keys do that is no line of a menu
 
 bool HandIsBusy(const frmMain& Main) {
@@ -208,7 +214,7 @@ bool DeleteWithCurrent(frmMain& Main) {
     return true;
 }
 
-constexpr int keyPlus = 187, keyMinus = 189;
+constexpr int keyPlus = 187, keyMinus = 189, keySlash = 191;
 
 constexpr KeyRow keys[] = {
     {KeyTab, Plain, &NextStop, {}},
@@ -243,6 +249,7 @@ constexpr KeyRow keys[] = {
     {KeyEscape, Plain, &BackToRest, {}},
     {KeyMenu, Plain, &PopupForFocus, {}},
     {KeyF10, Shift, &PopupForFocus, {}},
+    {KeySpace, Alt, &PopupPosition, {}},
 
     {'A', Ctrl, nullptr, "mnuSelectShortcuts(0)"},
     {'I', Alt, nullptr, "mnuSelectShortcuts(2)"},
@@ -285,7 +292,9 @@ constexpr KeyRow keys[] = {
     {KeyF1 + 7, Ctrl | Shift, nullptr, "mnuIgnoreChanges"},
     {KeyF1 + 3, Ctrl | Shift, nullptr, "mnuClearWorkspace"},
     {KeyF1 + 4, Ctrl | Shift, nullptr, "mnuLoadDefaults"},
+    {KeyF1, Plain, nullptr, "mnuHelp"},
     {KeyF1, Shift, nullptr, "mnuHelpItem"},
+    {KeyF1 + 8, Plain, nullptr, "ToggleTransparent"},
     {KeyF1 + 3, Alt, nullptr, "mnuExitMainWin"},
 
     {'F', Alt, nullptr, "mnuConFold"},
@@ -304,6 +313,28 @@ constexpr KeyRow keys[] = {
     {KeyDelete, Ctrl, nullptr, "mnuConRemove"},
     {KeyReturn, Alt, nullptr, "mnuConProperties"},
 
+    {'F', Ctrl, nullptr, "mnuConFileShortcut"},
+    {'F', Ctrl, nullptr, "mnuAddFileLink"},
+    {'D', Ctrl, nullptr, "mnuConDirectoryShortcut"},
+    {'D', Ctrl, nullptr, "mnuAddFolderLink"},
+    {'W', Ctrl, nullptr, "mnuConWebURL"},
+    {'W', Ctrl, nullptr, "mnuAddLink"},
+    {'O', Ctrl, nullptr, "mnuConCommand"},
+    {'O', Ctrl, nullptr, "mnuNewCommand"},
+    {'V', Ctrl, nullptr, "mnuPaste"},
+    {'V', Ctrl | Shift, nullptr, "mnuPasteToContainer"},
+    {'J', Ctrl, nullptr, "mnuKeyboardLauncher(0)"},
+    {'H', Alt, nullptr, "mnuKeyboardLauncher(1)"},
+    {keyPlus, Plain, nullptr, "mnuCalculator"},
+    {keySlash, Plain, nullptr, "mnuSpeedLaunch"},
+    {keySlash, Shift, nullptr, "mnuSpeedLaunch"},
+
+    {'O', Alt, nullptr, "mnuOpenFileLocation"},
+    {'O', Alt | Shift, nullptr, "mnuColorFromIcon"},
+    {'R', Ctrl | Shift, nullptr, "mnuLinkReset"},
+    {'I', Ctrl | Shift, nullptr, "mnuDownloadFavIcon"},
+    {'D', Ctrl | Shift, nullptr, "mnuCloneShortcut"},
+    {KeyF1 + 1, Plain, nullptr, "mnuShortcutProperties"},
     {KeyReturn, Shift, nullptr, "mnuStartInBackground"},
     {KeyReturn, Ctrl, nullptr, "mnuStartAdmin"},
     {KeyReturn, Ctrl | Shift, nullptr, "mnuStartWithoutParameters"},
@@ -464,7 +495,7 @@ bool Form_KeyDown(frmMain& Main, const KeyEvent& event) {
         if (!Reaches(row, event)) continue;
         if (row.Action ? row.Action(Main) : RunEntry(Main, row.Entry)) return true;
     }
-    return false;
+    return TypedKey(Main, event);
 }
 
 } // namespace quill

@@ -17,13 +17,16 @@ struct MarkSet {
     bool Tip = false;            // frmTip: its text
     bool MiniDock = false;       // frmMiniDock: its colour
     bool MiniToolbar = false;    // frmMiniToolbar: what it shows
+    bool JumpTo = false;         // PicJumpToLink: its place, its field and its picture
+    bool QuickLaunch = false;    // frmQuickLaunch: what it shows
     std::vector<int> Containers; // place, visibility and content; may hold an index twice
     std::vector<int> Pictures;
     int EditNote = -1;      // the note box of this container is to take the keyboard; -1: none
     std::vector<int> Notes; // text or looks of the note box
     bool Empty() const {
         return !Everything && !Workspace && !Stacking && !Splash && !Overlay && !Tip && !MiniDock &&
-               !MiniToolbar && EditNote == -1 && Containers.empty() && Pictures.empty() && Notes.empty();
+               !MiniToolbar && !JumpTo && !QuickLaunch && EditNote == -1 && Containers.empty() &&
+               Pictures.empty() && Notes.empty();
     }
 };
 
@@ -37,6 +40,8 @@ public:
     void Tip() { pending_.Tip = true, Added(); }
     void MiniDock() { pending_.MiniDock = true, Added(); }
     void MiniToolbar() { pending_.MiniToolbar = true, Added(); }
+    void JumpTo() { pending_.JumpTo = true, Added(); }
+    void QuickLaunch() { pending_.QuickLaunch = true, Added(); }
     void Container(int index) { pending_.Containers.push_back(index), Added(); }
     void Picture(int index) { pending_.Pictures.push_back(index), Added(); }
     void EditNote(int index) { pending_.EditNote = index, Added(); }

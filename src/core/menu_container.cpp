@@ -9,7 +9,9 @@
 #include "core/objects.h"
 #include "notes/notes.h"
 #include "persistence/save.h"
+#include "shortcuts/add_commands.h"
 #include "shortcuts/launch.h"
+#include "shortcuts/paste.h"
 
 namespace quill {
 namespace {
@@ -89,6 +91,25 @@ template <auto Command> void InContainerOnly(frmMain& Main) {
     Command(Main);
 }
 
+template <auto Add> void AddHere(frmMain& Main) {
+    Add(Main, CurrentContainerFrame(Main));
+}
+bool MayAdd(const frmMain& Main) {
+    return HasContainer(Main) && CanAddTo(Main, CurrentContainerFrame(Main));
+}
+bool MayPaste(const frmMain& Main) {
+    return MayAdd(Main) && CanPaste(Main);
+}
+
+constexpr MenuEntry addLines[] = {
+    {"mnuConFileShortcut", "&File...", "Ctrl+F", &AddHere<&AddFileLink>, &MayAdd},
+    {"mnuConDirectoryShortcut", "F&older...", "Ctrl+D", &AddHere<&AddFolderLink>, &MayAdd},
+    {"mnuConWebURL", "&Web Address...", "Ctrl+W", &AddHere<&AddWebLink>, &MayAdd},
+    {"mnuConCommand", "&Command...", "Ctrl+O", &AddHere<&AddCommand>, &MayAdd},
+    MenuSeparator,
+    {"mnuPasteToContainer", "Paste to Container", "Ctrl+Shift+V", &mnuPasteToContainer_Click, &MayPaste},
+};
+
 constexpr MenuEntry arrangeLines[] = {
     {"mnuAlignContainers(0)", "Align &Top", "Alt+T", &Item<&mnuAlignContainers_Click, 0>, &MayMoveOthers},
     {"mnuAlignContainers(1)", "Align &Left", "Alt+L", &Item<&mnuAlignContainers_Click, 1>, &MayMoveOthers},
@@ -111,6 +132,9 @@ constexpr MenuEntry shortcutLines[] = {
      &InContainerOnly<&Item<&mnuSelectShortcuts_Click, 2>>, &ShowsShortcuts},
 };
 
+MenuTable AddLines() {
+    return addLines;
+}
 MenuTable ArrangeLines() {
     return arrangeLines;
 }
@@ -127,6 +151,7 @@ constexpr MenuEntry containerMenu[] = {
     MenuSeparator,
     {"mnuConSwitchPlaces", "S&witch", "Alt+W", &mnuConSwitchPlaces_Click, &MayMoveThese},
     {"mnuSetContainerSize", "Match &Size", "Alt+M", &mnuSetContainerSize_Click, &MayMoveOthers},
+    {.Caption = "A&dd Shortcut", .Children = &AddLines},
     {.Caption = "&Arrange", .Children = &ArrangeLines},
     {.Caption = "Shortcu&ts", .Children = &ShortcutLines},
     MenuSeparator,

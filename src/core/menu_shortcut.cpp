@@ -3,8 +3,16 @@
 #include "containers/arrange.h"
 #include "containers/selection.h"
 #include "core/menu_tables.h"
+#include "core/tr.h"
+#include "dock/docking.h"
+#include "platform/shell.h"
+#include "shortcuts/create.h"
+#include "shortcuts/favicon.h"
 #include "shortcuts/launch.h"
+#include "shortcuts/open_with.h"
+#include "shortcuts/properties.h"
 #include "shortcuts/selected.h"
+#include "shortcuts/speed_launch.h"
 
 namespace quill {
 namespace {
@@ -27,6 +35,38 @@ void mnuStartAdmin_Click(frmMain& Main) {
 }
 void mnuStartWithoutParameters_Click(frmMain& Main) {
     StartShortcut(Main, Link(Main), false, " ", false, false);
+}
+
+std::vector<MenuItem> SendToItems(const frmMain& Main) {
+    std::vector<MenuItem> items;
+    for (const int shortcut : SendToShortcuts(Main))
+        items.push_back({Main.Link(shortcut).FullCaption, shortcut, CanOpenWith(Main, shortcut, Link(Main))});
+    if (items.empty()) items.push_back({Tr(Main, "[SPEED LAUNCH IS EMPTY]"), -1, false});
+    return items;
+}
+void mnuSendToItem_Click(frmMain& Main, int Program) {
+    OpenShortcutWith(Main, Program, Link(Main));
+}
+
+constexpr MenuEntry sendToLines[] = {
+    {.Name = "mnuSendToItem", .Items = &SendToItems, .Choose = &mnuSendToItem_Click},
+};
+
+MenuTable SendToLines() {
+    return sendToLines;
+}
+
+bool IsFile(const frmMain& Main) {
+    return HasShortcut(Main) && Main.Link(Link(Main)).ShortcutType == TypeFile &&
+           !Main.Link(Link(Main)).Command;
+}
+
+// By its key it says why it does nothing.
+void mnuOpenFileLocation_Click(frmMain& Main) {
+    if (IsFile(Main)) return Main.P.Shell.ShowInFolder(ResolvedPath(Main, Main.Link(Link(Main)).Path));
+    const DialogPause pause(Main);
+    Main.P.Questions.MsgBox(Tr(Main, "The selected shortcut is not a file/directory shortcut."),
+                            BoxOk | BoxWarning, ProgramName);
 }
 
 bool MayChange(const frmMain& Main) {
@@ -71,6 +111,9 @@ constexpr MenuEntry textLines[] = {
     MenuSeparator,
     {"ToggleBoldFont", "&Bold", "Ctrl+B", &OnSelection<&ToggleBoldFont>, &MayChange},
     {"mnuChooseColor", "&Color...", "Alt+Shift+C", &OnSelection<&mnuChooseColor_Click>, &MayChange},
+    {"mnuColorFromIcon", "Color from &Icon", "Alt+Shift+O", &OnSelection<&mnuColorFromIcon_Click>,
+     &MayChange},
+    {"mnuLinkReset", "&Reset Style", "Ctrl+Shift+R", &OnSelection<&mnuLinkReset_Click>, &MayChange},
 };
 
 MenuTable SelectLines() {
@@ -92,6 +135,8 @@ constexpr MenuEntry shortcutMenu[] = {
      &HasShortcut},
     {"mnuStartWithoutParameters", "&Override &Parameters Field", "Ctrl+Shift+Enter",
      &mnuStartWithoutParameters_Click, &HasShortcut},
+    {.Caption = "Send &To..", .Children = &SendToLines},
+    {"mnuOpenFileLocation", "Open File Location", "Alt+O", &mnuOpenFileLocation_Click, &HasShortcut},
     MenuSeparator,
     {.Caption = "S&elect", .Children = &SelectLines},
     {.Caption = "Arran&ge", .Children = &ArrangeLines},
@@ -99,6 +144,10 @@ constexpr MenuEntry shortcutMenu[] = {
     MenuSeparator,
     {"DeleteSelectedShortcuts", "Remo&ve Shortcuts", "Shift+Delete", &OnSelection<&DeleteSelectedShortcuts>,
      &MayChange},
+    {"mnuDownloadFavIcon", "Do&wnload Favicon", "Ctrl+Shift+I", &OnSelection<&mnuDownloadFavIcon_Click>,
+     &MayChange},
+    {"mnuCloneShortcut", "Clo&ne...", "Ctrl+Shift+D", &mnuCloneShortcut_Click, &MayChange},
+    {"mnuShortcutProperties", "Propert&ies...", "F2", &mnuShortcutProperties_Click, &MayChange},
 };
 
 } // namespace

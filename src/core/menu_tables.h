@@ -9,6 +9,7 @@ MenuTable WorkspaceMenu();
 MenuTable ContainerMenu();
 MenuTable ShortcutMenu();
 MenuTable TrayMenu();
+MenuTable PositionMenu(); // a part of the workspace's menu that has a key of its own
 
 inline constexpr MenuEntry MenuSeparator{.Caption = "-"};
 

@@ -1,6 +1,7 @@
 // The workspace's menu. What its lines about shortcuts and spacing mean, the container with the keys or the
 // workspace itself, their routines decide.
 #include "appearance/settings_dialog.h"
+#include "appearance/wallpaper.h"
 #include "containers/arrange.h"
 #include "containers/commands.h"
 #include "containers/flip.h"
@@ -16,16 +17,23 @@
 #include "dock/dock_commands.h"
 #include "dock/docking.h"
 #include "dock/workspace_lock.h"
+#include "keyboard/jump_to.h"
 #include "notes/notes.h"
 #include "persistence/backup.h"
 #include "persistence/save.h"
+#include "platform/shell.h"
+#include "shortcuts/add_commands.h"
+#include "shortcuts/launch.h"
+#include "shortcuts/paste.h"
 #include "shortcuts/selected.h"
+#include "shortcuts/speed_launch.h"
 
 #include <algorithm>
 
 namespace quill {
 namespace {
 
+constexpr const char* HelpPage = "Quillmere Home Page.html";
 constexpr float stepAside = 300; // twips, about a title row
 constexpr int mostSteps = 20;
 
@@ -69,6 +77,19 @@ void mnuNewNote_Click(frmMain& Main) {
 
 void mnuStartSelected_Click(frmMain& Main) {
     StartSelected(Main, false, false);
+}
+
+// The page is one of ours and needs no network.
+void mnuHelp_Click(frmMain& Main) {
+    LaunchRequest request;
+    request.Verb = "open";
+    request.File = FileBeside(Main, HelpPage);
+    const Status status =
+        request.File.empty() ? Status(Failure{Reason::NotFound, {}}) : Main.P.Shell.ShellExecute(request);
+    if (status.Ok()) return;
+    const DialogPause pause(Main);
+    Main.P.Questions.MsgBox(Tr(Main, "The help page can't be opened.") + "\n\n" + status.Error().Text,
+                            BoxWarning, ProgramName);
 }
 
 void mnuHelpItem_Click(frmMain& Main) {
@@ -117,12 +138,62 @@ bool MayDock(const frmMain& Main) {
 void mnuProgramSettings_Click(frmMain& Main) {
     ShowSettingsDialog(Main, SettingsPage::FrameGeneral);
 }
+bool IsTransparent(const frmMain& Main) {
+    return Main.Settings.Translucent;
+}
 bool IsMaximized(const frmMain& Main) {
     return Main.Dock.Maximized;
 }
 bool IsNotMaximized(const frmMain& Main) {
     return !Main.Dock.Maximized;
 }
+
+template <auto Add> void AddOnWorkspace(frmMain& Main) {
+    Add(Main, OnWorkspace());
+}
+bool MayAdd(const frmMain& Main) {
+    return CanAddTo(Main, OnWorkspace());
+}
+
+constexpr MenuEntry addLines[] = {
+    {"mnuAddFileLink", "&File...", "Ctrl+F", &AddOnWorkspace<&AddFileLink>, &MayAdd},
+    {"mnuAddFolderLink", "F&older...", "Ctrl+D", &AddOnWorkspace<&AddFolderLink>, &MayAdd},
+    {"mnuAddLink", "&Web Address...", "Ctrl+W", &AddOnWorkspace<&AddWebLink>, &MayAdd},
+    {"mnuNewCommand", "&Command...", "Ctrl+O", &AddOnWorkspace<&AddCommand>, &MayAdd},
+    MenuSeparator,
+    {"mnuPaste", "&Paste Shortcuts...", "Ctrl+V", &mnuPaste_Click, &CanPaste},
+};
+
+void mnuCalculator_Click(frmMain& Main) {
+    ShowPicJumpTo(Main, "=", true, false);
+}
+
+std::vector<MenuItem> RecentItems(const frmMain& Main) {
+    std::vector<MenuItem> items;
+    for (const auto& recent : Main.Links.Recent) items.push_back({recent.Caption, recent.Tag});
+    if (items.empty()) items.push_back({Tr(Main, "[No Recent Shortcuts]"), -1, false});
+    return items;
+}
+void mnuRecentShortcut_Click(frmMain& Main, int Shortcut) {
+    StartShortcut(Main, Shortcut, false, "", false, false);
+}
+
+constexpr MenuEntry recentLines[] = {
+    {.Name = "mnuRecentShortcut", .Items = &RecentItems, .Choose = &mnuRecentShortcut_Click},
+};
+
+MenuTable RecentLines() {
+    return recentLines;
+}
+
+constexpr MenuEntry startLines[] = {
+    {"mnuKeyboardLauncher(0)", "&Keyboard Launcher", "Ctrl+J", &mnuKeyboardLauncher_Click},
+    {"mnuKeyboardLauncher(1)", "Keyboard Launcher History", "Alt+H", &lblHistory_Click},
+    {"mnuCalculator", "Calculator", "=", &mnuCalculator_Click},
+    MenuSeparator,
+    {"mnuSpeedLaunch", "&Speed Launch", "/", &ShowSpeedLaunch},
+    {.Caption = "&Recent Shortcuts", .Children = &RecentLines},
+};
 
 constexpr MenuEntry shortcutLines[] = {
     {"mnuSelectShortcuts(0)", "&Select All", "Ctrl+A", &Item<&mnuSelectShortcuts_Click, 0>, &HasShortcuts},
@@ -183,13 +254,25 @@ constexpr MenuEntry viewLines[] = {
     {"mnuMaximize", "Ma&ximize", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsNotMaximized},
     {"mnuRestore", "Restor&e", "F11", &mnuMaximize_Click, nullptr, nullptr, &IsMaximized},
     {"mnuOnTop", "Keep &On Top", "Ctrl+Shift+T", &mnuOnTop_Click, nullptr, &IsOnTop},
+    {"ToggleTransparent", "&Transparent", "F9", &ToggleTransparent, nullptr, &IsTransparent},
 };
 
-MenuTable PositionLines() {
-    return positionLines;
+constexpr MenuEntry helpLines[] = {
+    {"mnuHelp", "&Help", "F1", &mnuHelp_Click},
+    {"mnuHelpItem", "Command-&line Options", "Shift+F1", &mnuHelpItem_Click},
+};
+
+MenuTable HelpLines() {
+    return helpLines;
 }
 MenuTable ViewLines() {
     return viewLines;
+}
+MenuTable AddLines() {
+    return addLines;
+}
+MenuTable StartLines() {
+    return startLines;
 }
 MenuTable ShortcutLines() {
     return shortcutLines;
@@ -207,6 +290,8 @@ MenuTable TextLines() {
 constexpr MenuEntry workspaceMenu[] = {
     {"mnuNew", "New &Container", "Ctrl+T", &mnuNew_Click},
     {"mnuNewNote", "&Note", "Ctrl+N", &mnuNewNote_Click},
+    {.Caption = "New Sh&ortcut", .Children = &AddLines},
+    {.Caption = "&Quick Start", .Children = &StartLines},
     MenuSeparator,
     {"mnuUndoRedo(0)", "&Undo", "Ctrl+Z", &Item<&mnuUndoRedo_Click, 0>, &CanUndo},
     {"mnuUndoRedo(1)", "&Redo", "Ctrl+Y", &Item<&mnuUndoRedo_Click, 1>, &CanRedo},
@@ -222,7 +307,7 @@ constexpr MenuEntry workspaceMenu[] = {
     {"mnuSave", "&Save", "F8", &mnuSave_Click},
     {"mnuBackup", "&Backup", "Ctrl+F8", &mnuBackup_Click},
     MenuSeparator,
-    {.Caption = "&Position", .Children = &PositionLines},
+    {.Caption = "&Position", .Children = &PositionMenu},
     {.Caption = "&View", .Children = &ViewLines},
     {"mnuLock", "Loc&k", "Ctrl+L", &mnuLock_Click, nullptr, &IsLocked},
     {"mnuProgramSettings", "S&ettings...", "F3", &mnuProgramSettings_Click},
@@ -230,12 +315,16 @@ constexpr MenuEntry workspaceMenu[] = {
     {"mnuIgnoreChanges", "&Ignore Changes", "Ctrl+Shift+F8", &RestartIgnoringChanges},
     {"mnuClearWorkspace", "Clear &Workspace", "Ctrl+Shift+F4", &mnuClearWorkspace_Click},
     {"mnuLoadDefaults", "Load &Defaults", "Ctrl+Shift+F5", &mnuLoadDefaults_Click},
-    {"mnuHelpItem", "Command-&line Options", "Shift+F1", &mnuHelpItem_Click},
+    {.Caption = "He&lp", .Children = &HelpLines},
     MenuSeparator,
     {"mnuExitMainWin", "Exi&t", "Alt+F4", &mnuExitMainWin_Click},
 };
 
 } // namespace
+
+MenuTable PositionMenu() {
+    return positionLines;
+}
 
 MenuTable WorkspaceMenu() {
     return workspaceMenu;

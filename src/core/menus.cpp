@@ -11,14 +11,14 @@ namespace quill {
 namespace {
 
 bool IsSeparator(const MenuEntry& entry) {
-    return !entry.Click && !entry.Children;
+    return !entry.Click && !entry.Children && !entry.Items;
 }
 
 bool Shows(const frmMain& Main, const MenuEntry& entry) {
     return !entry.Visible || entry.Visible(Main);
 }
 
-using Offered = std::vector<const MenuEntry*>;
+using Offered = std::vector<OfferedLine>;
 std::vector<MenuLine> LinesOf(const frmMain& Main, MenuTable table, Offered& offered);
 
 MenuLine SubMenu(const frmMain& Main, const MenuEntry& entry, Offered& offered) {
@@ -37,8 +37,28 @@ MenuLine CommandLine(const frmMain& Main, const MenuEntry& entry, Offered& offer
     line.Checkable = entry.Checked != nullptr;
     line.Checked = entry.Checked && entry.Checked(Main);
     line.Id = static_cast<int>(offered.size());
-    offered.push_back(&entry);
+    offered.push_back({&entry});
     return line;
+}
+
+// No name of the person's makes a mnemonic, or a key behind a tab.
+std::string LetterByLetter(const std::string& caption) {
+    std::string text;
+    for (const char letter : caption) {
+        text += static_cast<unsigned char>(letter) < ' ' ? ' ' : letter;
+        if (letter == '&') text += letter;
+    }
+    return text;
+}
+
+void AddItems(const frmMain& Main, const MenuEntry& entry, Offered& offered, std::vector<MenuLine>& lines) {
+    for (const auto& item : entry.Items(Main)) {
+        MenuLine& line = lines.emplace_back();
+        line.Caption = LetterByLetter(item.Caption);
+        line.Enabled = item.Enabled;
+        line.Id = static_cast<int>(offered.size());
+        offered.push_back({&entry, item.Value});
+    }
 }
 
 // Separators stand only between lines that show.
@@ -46,7 +66,9 @@ std::vector<MenuLine> LinesOf(const frmMain& Main, MenuTable table, Offered& off
     std::vector<MenuLine> lines;
     for (const auto& entry : table) {
         if (!Shows(Main, entry)) continue;
-        if (!IsSeparator(entry))
+        if (entry.Items)
+            AddItems(Main, entry, offered, lines);
+        else if (!IsSeparator(entry))
             lines.push_back(entry.Children ? SubMenu(Main, entry, offered)
                                            : CommandLine(Main, entry, offered));
         else if (!lines.empty() && lines.back().Caption != "-")
@@ -100,6 +122,8 @@ MenuTable TableOf(MenuName menu) {
         return ShortcutMenu();
     case MenuName::Tray:
         return TrayMenu();
+    case MenuName::Position:
+        return PositionMenu();
     default:
         return {};
     }
@@ -117,8 +141,15 @@ void PopupMenu(frmMain& Main, MenuName menu, Point screen) {
     const int chosen = AskMenu(Main, lines, menu, screen);
     if (chosen < 0 || Main.IsExiting) return;
     subject.Restore(Main);
-    const auto& entry = *offered[static_cast<std::size_t>(chosen)];
-    if (MayRun(Main, entry)) entry.Click(Main);
+    RunOffered(Main, offered[static_cast<std::size_t>(chosen)]);
+}
+
+void RunOffered(frmMain& Main, const OfferedLine& line) {
+    if (!MayRun(Main, *line.Entry)) return;
+    if (line.Entry->Choose)
+        line.Entry->Choose(Main, line.Value);
+    else
+        line.Entry->Click(Main);
 }
 
 FoundEntry FindEntry(std::string_view name) {

@@ -15,8 +15,15 @@ namespace quill {
 struct MenuEntry;
 using MenuTable = std::span<const MenuEntry>;
 
-// Either Click or Children; a line with neither and the Caption "-" is a separator. Items of one command with
-// an index are named like "mnuUndoRedo(1)".
+// A line that is made when the menu is: a shortcut's name and what is passed on when it is chosen.
+struct MenuItem {
+    std::string Caption; // as it stands; "&" is a letter in it
+    int Value = -1;
+    bool Enabled = true;
+};
+
+// Either Click or Children, or Items with Choose, which stand for as many lines; a line with none of them and
+// the Caption "-" is a separator. Items of one command with an index are named like "mnuUndoRedo(1)".
 struct MenuEntry {
     std::string_view Name{};    // "mnuSave"; empty for a separator
     std::string_view Caption{}; // English, through Tr when shown
@@ -26,9 +33,11 @@ struct MenuEntry {
     bool (*Checked)(const frmMain&) = nullptr; // null: not checkable
     bool (*Visible)(const frmMain&) = nullptr; // null: always
     MenuTable (*Children)() = nullptr;         // lines of its sub-menu
+    std::vector<MenuItem> (*Items)(const frmMain&) = nullptr;
+    void (*Choose)(frmMain&, int value) = nullptr;
 };
 
-enum class MenuName { Workspace, Container, Shortcut, Picture, Tray };
+enum class MenuName { Workspace, Container, Shortcut, Picture, Tray, Position };
 
 // The table of a menu; empty for those that are not built.
 MenuTable TableOf(MenuName menu);
@@ -44,7 +53,8 @@ struct FoundEntry {
 FoundEntry FindEntry(std::string_view name);
 const MenuEntry* EntryByName(std::string_view name);
 bool MayRun(const frmMain& Main, const MenuEntry& entry); // it shows and is enabled
-// The lines of a menu that the desktop itself shows; offered holds the entry of each id.
-std::vector<MenuLine> LinesOfMenu(const frmMain& Main, MenuName menu, std::vector<const MenuEntry*>& offered);
+// The lines of a menu that the desktop itself shows; offered holds what stands behind each id.
+std::vector<MenuLine> LinesOfMenu(const frmMain& Main, MenuName menu, std::vector<OfferedLine>& offered);
+void RunOffered(frmMain& Main, const OfferedLine& line);
 
 } // namespace quill

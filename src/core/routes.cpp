@@ -12,10 +12,12 @@
 #include "dock/docking.h"
 #include "dock/mini_toolbar.h"
 #include "dock/workspace_lock.h"
+#include "keyboard/jump_to.h"
 #include "notes/notes.h"
 #include "persistence/save.h"
 #include "platform/windows.h"
 #include "shortcuts/launch.h"
+#include "shortcuts/speed_launch.h"
 
 #include <algorithm>
 
@@ -136,6 +138,13 @@ void ClickLinkColor(frmMain& Main, int, const MouseEvent&) {
     PicLinkColor_Click(Main);
 }
 
+template <auto Click> void ClickInBox(frmMain& Main, int, const MouseEvent&) {
+    Click(Main);
+}
+void ClickSpeedLaunchRow(frmMain& Main, int Index, const MouseEvent&) {
+    lblSpeedLaunch_Click(Main, Index);
+}
+
 constexpr Route routes[] = {
     {ElementKind::picBack, &PressBack, nullptr, nullptr},
     {ElementKind::picMoveMe, &PressTitle, nullptr, &DoubleClickTitle},
@@ -165,6 +174,11 @@ constexpr Route routes[] = {
     {ElementKind::PicImage, &PressPicture, nullptr, nullptr},
     {ElementKind::MiniToolbarButton, nullptr, &ClickMiniToolbarButton, nullptr},
     {ElementKind::PicLinkColor, nullptr, &ClickLinkColor, nullptr},
+    {ElementKind::lblHistory, nullptr, &ClickInBox<&lblHistory_Click>, nullptr},
+    {ElementKind::lblGo, nullptr, &ClickInBox<&lblGo_Click>, nullptr},
+    {ElementKind::lblClosePicJumpTo, nullptr, &ClickInBox<&lblClosePicJumpTo_Click>, nullptr},
+    {ElementKind::lblSpeedLaunch, nullptr, &ClickSpeedLaunchRow, nullptr},
+    {ElementKind::picIcon, nullptr, &ClickSpeedLaunchRow, nullptr},
 };
 
 } // namespace

@@ -15,8 +15,9 @@ namespace quill {
 struct frmMain;
 
 // The overlay lies over everything on picBack and lets the mouse through; it shows only while it has
-// something to show. MiniDock and MiniToolbar are windows of their own beside the workspace.
-enum class SurfaceKind { Workspace, Container, Picture, Overlay, MiniDock, MiniToolbar };
+// something to show. JumpTo is the Keyboard Launcher's box, above all objects. MiniDock, MiniToolbar and
+// QuickLaunch are windows of their own beside the workspace.
+enum class SurfaceKind { Workspace, Container, Picture, Overlay, MiniDock, MiniToolbar, JumpTo, QuickLaunch };
 
 struct SurfaceId {
     SurfaceKind Kind = SurfaceKind::Workspace;
@@ -59,6 +60,17 @@ enum class ElementKind {
     picMiniToolbar,
     MiniToolbarButton,
     PicLinkColor,
+    PicJumpToLink,
+    PicJumpToIcon,
+    lblJumpToLink,
+    lblJumpToTip,
+    cboSearch,
+    lblHistory,
+    lblGo,
+    lblClosePicJumpTo,
+    frmQuickLaunch,
+    picIcon,        // of a row of frmQuickLaunch; its index is the row
+    lblSpeedLaunch, // the row itself
 };
 
 struct ElementId {
@@ -67,7 +79,7 @@ struct ElementId {
     auto operator<=>(const ElementId&) const = default;
 };
 
-enum class Role { Pane, Title, Button, Label, ListItem, Note, Image, Grip, Scroll, Mark };
+enum class Role { Pane, Title, Button, Label, ListItem, Note, Image, Grip, Scroll, Mark, Edit };
 
 struct ElementInfo {
     ElementId Id;

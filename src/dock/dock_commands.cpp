@@ -1,4 +1,5 @@
 #include "dock/dock_commands.h"
+#include "keyboard/jump_to.h"
 
 #include "containers/fold.h"
 #include "containers/shrink.h"
@@ -116,6 +117,7 @@ void ToggleWorkspace(frmMain& Main) {
     if (Main.IsLoading || Main.IsExiting) return;
     if (HasKeyboard(Main) && Main.Dock.DialogPauses == 0) return PutAway(Main);
     CallForward(Main);
+    if (Main.Settings.ShowKBLauncher && Main.Dock.DialogPauses == 0) ShowPicJumpTo(Main, "", true, false);
 }
 
 bool CollapseByKey(frmMain& Main) {
@@ -135,6 +137,12 @@ void mnuCenterWorkspace_Click(frmMain& Main) {
     const Rect window = StandingPlace(Main);
     PutThere(Main, CenteredOn(MonitorOf(Main, window), window));
     ApplyOpacity(Main);
+}
+
+void ToggleTransparent(frmMain& Main) {
+    Main.Settings.Translucent = !Main.Settings.Translucent;
+    ApplyOpacity(Main);
+    SaveWorkspace(Main, true, false);
 }
 
 void mnuDockNow_Click(frmMain& Main) {

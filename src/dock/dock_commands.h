@@ -17,6 +17,7 @@ bool CollapseByKey(frmMain& Main);
 
 // 0 top, 1 left, 2 right, 3 bottom of its monitor. It is moved and not docked; the heartbeat does that.
 void mnuDockPos_Click(frmMain& Main, int Index);
+void ToggleTransparent(frmMain& Main);
 void mnuCenterWorkspace_Click(frmMain& Main); // of its monitor; from the tray too
 // At the edge that it touches, else where it docked last, without a slide. PicDock does the same.
 void mnuDockNow_Click(frmMain& Main);

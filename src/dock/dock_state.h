@@ -13,6 +13,12 @@ namespace quill {
 struct frmMain;
 struct MenuEntry;
 
+// A line of a menu as it was shown.
+struct OfferedLine {
+    const MenuEntry* Entry = nullptr;
+    int Value = -1; // of an item that was made for this once
+};
+
 // What moves on the screen by frames, each at its own rate.
 enum class FrameStream { Slide, Effect, Fade };
 
@@ -62,12 +68,12 @@ struct DockState {
     SlideState Slide;
     MiniDockState MiniDock;
     MiniToolbarState MiniToolbar;
-    bool JustUsedHotKey = false;             // a press of the hotkey is not for the workspace now
-    bool HotkeyRefused = false;              // another program has it
-    std::int32_t UpdateCheckSeconds = 0;     // ticks of TimerHide since the last check for a new version
-    std::int32_t UpdateChecksDue = 0;        // times that one was due
-    bool BrieflyUnlocked = false;            // the lock holds, but not for the moment; Locked is false then
-    std::vector<const MenuEntry*> TrayLines; // of the menu that the tray shows, by their id
+    bool JustUsedHotKey = false;         // a press of the hotkey is not for the workspace now
+    bool HotkeyRefused = false;          // another program has it
+    std::int32_t UpdateCheckSeconds = 0; // ticks of TimerHide since the last check for a new version
+    std::int32_t UpdateChecksDue = 0;    // times that one was due
+    bool BrieflyUnlocked = false;        // the lock holds, but not for the moment; Locked is false then
+    std::vector<OfferedLine> TrayLines;  // of the menu that the tray shows, by their id
     bool Maximized = false;
     bool Suspended = false;            // mnuSuspendSlideOut is checked
     bool Locked = false;               // mnuLock is checked

@@ -1,4 +1,5 @@
 #include "dock/sliding.h"
+#include "keyboard/jump_to.h"
 
 #include "appearance/effects.h"
 #include "appearance/tips.h"
@@ -104,6 +105,7 @@ void PrepareToDock(frmMain& Main) {
     EndEffect(Main);
     LoadMiniDock(Main);
     CloseMiniToolbar(Main);
+    if (IsJumpToOpen(Main)) ClosePicJumpTo(Main);
     ShrinkBackContainer(Main, false);
     AutoFoldContainer(Main, Main.Group.AutoFoldContainerIndex);
 }
@@ -174,7 +176,8 @@ void StayDocked(frmMain& Main) {
 // Nobody looks at the workspace: it goes, if it touches an edge.
 void Collapse(frmMain& Main) {
     auto& dock = Main.Dock;
-    if (dock.DialogPauses > 0 || dock.Suspended || Main.P.Windows.IsForeground(MainWindow)) return;
+    if (dock.DialogPauses > 0 || dock.Suspended || Main.Links.Dropping) return;
+    if (Main.P.Windows.IsForeground(MainWindow)) return;
     if (const int edge = EdgeOfWindow(Main, Main.View.Window); edge != edge::None)
         return DockMe(Main, edge, true);
     if (dock.ZOrderAsserted) return;
@@ -301,9 +304,9 @@ void DockAnew(frmMain& Main) {
 }
 
 bool MayCollapse(const frmMain& Main) {
-    return !Main.Dock.Suspended && !IsMaximized(Main) && Main.Dock.DialogPauses == 0 && Main.View.Visible &&
-           Main.View.State != WindowState::Minimized && Main.Dock.DockPosition == 0 &&
-           EdgeOfWindow(Main, Main.View.Window) != 0;
+    return !Main.Dock.Suspended && !IsMaximized(Main) && Main.Dock.DialogPauses == 0 &&
+           !Main.Links.Dropping && Main.View.Visible && Main.View.State != WindowState::Minimized &&
+           Main.Dock.DockPosition == 0 && EdgeOfWindow(Main, Main.View.Window) != 0;
 }
 
 void TimerHide_Timer(frmMain& Main) {

@@ -32,8 +32,7 @@ std::vector<MenuLine> TrayMenu_Lines(frmMain& Main) {
 void TrayMenu_Click(frmMain& Main, int id) {
     const auto& lines = Main.Dock.TrayLines;
     if (Main.IsExiting || id < 0 || static_cast<std::size_t>(id) >= lines.size()) return;
-    const MenuEntry& entry = *lines[static_cast<std::size_t>(id)];
-    if (MayRun(Main, entry)) entry.Click(Main);
+    RunOffered(Main, lines[static_cast<std::size_t>(id)]);
 }
 
 } // namespace quill

@@ -66,6 +66,7 @@ void ApplyLink(frmMain& Main, const LinkRecord& record, Parent parent) {
         AddFile(Main, {}, parent, place);
     const int index = Main.NextShortcutIndex - 1;
     ApplyValues(record, Main.Link(index));
+    ++Main.Links.CaptionsRevision;
     Main.LinkView(index).lblShortcut.Caption = Main.Link(index).FullCaption;
     ApplyShortcutStyle(Main, index);
 }

@@ -13,6 +13,7 @@
 #include "persistence/surplus.h"
 #include "platform/files.h"
 #include "platform/session.h"
+#include "shortcuts/icon_cache.h"
 
 #include <functional>
 #include <map>
@@ -169,6 +170,12 @@ void Concluded(frmMain& Main, const Status& saved) {
     ReportSave(Main, saved);
 }
 
+// Only now may anything go that an earlier generation has named.
+void ConcludedCommitted(frmMain& Main, const Status& saved) {
+    Concluded(Main, saved);
+    if (saved) CleanIconCache(Main);
+}
+
 } // namespace
 
 bool MaySave(const frmMain& Main) {
@@ -179,7 +186,10 @@ bool MaySave(const frmMain& Main) {
 void SaveWorkspace(frmMain& Main, bool Recover, bool Exiting) {
     if (!MaySave(Main)) return;
     if (!Recover) EndBrieflyUnlock(Main);
-    Concluded(Main, Recover ? WriteRecovery(Main, What::Everything) : WriteCommitted(Main, Exiting));
+    if (Recover)
+        Concluded(Main, WriteRecovery(Main, What::Everything));
+    else
+        ConcludedCommitted(Main, WriteCommitted(Main, Exiting));
     if (Exiting) Main.Store.ExitSaved = true;
 }
 
@@ -187,7 +197,10 @@ void SaveWorkspace(frmMain& Main, bool Recover, bool Exiting) {
 void SaveContainers(frmMain& Main, bool Recover) {
     if (!MaySave(Main)) return;
     if (!Recover) EndBrieflyUnlock(Main);
-    Concluded(Main, Recover ? WriteRecovery(Main, What::ContainersOnly) : WriteCommitted(Main, false));
+    if (Recover)
+        Concluded(Main, WriteRecovery(Main, What::ContainersOnly));
+    else
+        ConcludedCommitted(Main, WriteCommitted(Main, false));
 }
 
 void KillContainers(frmMain& Main, const std::string& Pattern) {

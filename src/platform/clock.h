@@ -32,6 +32,7 @@ enum class TimerName {
     TimerSaveNotes,      // ours: 2000 ms after the last key in a note
     TimerRestoreCaption, // ours: takes a passing text out of lblCaption again
     TimerScrollOnDrag,   // ours: 50 ms while something is held near the edge of a frame that scrolls
+    TimeUnload,          // of frmQuickLaunch
     TimerServices,       // ours: once, when the first picture stands: tray, hotkey, counters
 };
 

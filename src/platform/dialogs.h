@@ -12,12 +12,21 @@
 namespace quill {
 
 class frmConProperties;
+class frmEditLink;
+class frmInternetShortcut;
 class frmSettings;
 
 struct FileQuestion {
     std::string Title;
     std::string FilterCaption = "All Files (*.*)";
     std::string Folder; // where it opens; empty: where the toolkit sees fit
+};
+
+// A text as a value, edited in a box of several lines; lines end in LF.
+struct TextQuestion {
+    std::string Title;
+    std::string Caption; // the prompt
+    std::string Text;
 };
 
 class Dialogs {
@@ -27,7 +36,11 @@ public:
     // True: accepted.
     virtual bool Show(frmConProperties& dialog) = 0;
     virtual bool Show(frmSettings& dialog) = 0;
+    virtual bool Show(frmEditLink& dialog) = 0;
+    virtual bool Show(frmInternetShortcut& dialog) = 0;
+    virtual bool Show(TextQuestion& question) = 0; // untouched when it was cancelled
     virtual std::optional<std::string> OpenFile(const FileQuestion& question) = 0; // nothing: cancelled
+    virtual std::optional<std::string> OpenFolder(const FileQuestion& question) = 0;
     virtual std::optional<Color> ChooseColor(Color now, const std::string& title) = 0;
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace quill {
 
@@ -21,6 +22,8 @@ public:
     // The mount point that holds a path: "/" at least.
     virtual std::string MountPoint(const std::string& path) const = 0;
     virtual DriveKind KindOfDrive(const std::string& path) const = 0;
+    // Languages of the person for texts of others, the preferred first: "de_DE", "de".
+    virtual std::vector<std::string> Languages() const = 0;
     // The kernel's release, for "Linux 6.1.0".
     virtual std::string SystemRelease() const = 0;
 };

@@ -9,7 +9,8 @@
 //   work.h       jobs off the thread           zip.h        archives
 //   dialogs.h    forms                         drags.h      drag and drop
 //   tray.h       the notification area         hotkeys.h    a key of the whole desktop
-//   counters.h   memory and processors
+//   counters.h   memory and processors      clipboard.h  what was copied
+//   web.h        what is fetched from other machines
 #pragma once
 
 namespace quill {
@@ -32,6 +33,8 @@ class Zip;
 class Tray;
 class Hotkeys;
 class Counters;
+class Clipboard;
+class Web;
 
 struct Platform {
     quill::Files& Files;
@@ -52,6 +55,8 @@ struct Platform {
     quill::Tray& Tray;
     quill::Hotkeys& Hotkeys;
     quill::Counters& Counters;
+    quill::Clipboard& Clipboard;
+    quill::Web& Web;
 };
 
 } // namespace quill

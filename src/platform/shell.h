@@ -17,6 +17,8 @@ struct LaunchRequest {
     std::string Directory;  // start folder, empty: the home folder
     int Show = 1;           // 1 normal, 2 minimised, 3 maximised
     bool Command = false;
+    // Passed as they are, instead of Parameters when there are any; a desktop entry takes them as its documents.
+    std::vector<std::string> Arguments{};
 };
 
 class Shell {
@@ -30,6 +32,10 @@ public:
     virtual Status StartProgram(const std::string& path, const std::vector<std::string>& arguments) = 0;
     // Shows a file in the user's file manager, selected where that is possible.
     virtual void ShowInFolder(const std::string& path) = 0;
+    // The desktop's own dialog about a file, or a plain one of ours.
+    virtual Status ShowFileProperties(const std::string& path) = 0;
+    // Into the desktop's trash, never further; Text is the system's own message.
+    virtual Status MoveToTrash(const std::string& path) = 0;
     // True for a path under a remote mount and for smb:, sftp: and the like.
     virtual bool PathIsNetworkPath(const std::string& path) const = 0;
     // Asks off the thread, at most timeout milliseconds; the handler runs on the one thread. No answer is

@@ -18,6 +18,7 @@ enum class WindowName {
     frmMiniToolbar,
     frmExplode,
     frmTip,
+    frmQuickLaunch,
     frmContainer,
     frmContainerLabel
 };
@@ -74,6 +75,7 @@ public:
     virtual Point GetCursorPos() const = 0;
     virtual void SetCursorPos(Point place) = 0;
     virtual void ShowCursor(bool shown) = 0; // over our own windows
+    virtual void ShowBusy(bool busy) = 0;    // the pointer of who waits, over our own windows
 };
 
 inline constexpr WindowId MainWindow{WindowName::frmMain};
@@ -81,5 +83,6 @@ inline constexpr WindowId SplashWindow{WindowName::frmSplash};
 inline constexpr WindowId TipWindow{WindowName::frmTip};
 inline constexpr WindowId MiniDockWindow{WindowName::frmMiniDock};
 inline constexpr WindowId MiniToolbarWindow{WindowName::frmMiniToolbar}; // titled "QuillmereMiniToolbar"
+inline constexpr WindowId QuickLaunchWindow{WindowName::frmQuickLaunch}; // takes the keyboard when shown
 
 } // namespace quill

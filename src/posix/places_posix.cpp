@@ -3,6 +3,7 @@
 #include "posix/environment.h"
 #include "posix/files_posix.h"
 
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <pwd.h>
@@ -111,6 +112,8 @@ PlacesSources PlacesSourcesOfSystem() {
     sources.Home = HomeFolder();
     sources.ConfigHome = Variable("XDG_CONFIG_HOME");
     sources.DataHome = Variable("XDG_DATA_HOME");
+    for (const char* name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"})
+        if (sources.Language.empty()) sources.Language = Variable(name);
 #ifdef QUILLMERE_DATA_DIR
     sources.InstalledData = QUILLMERE_DATA_DIR;
 #endif
@@ -181,6 +184,24 @@ std::string PlacesPosix::UserFolder(SpecialFolder which) const {
 DriveKind PlacesPosix::KindOfDrive(const std::string& path) const {
     const auto mount = mounts_.Holding(path);
     return IsRemovableDevice(sources_.SysFolder, mount) ? DriveKind::Removable : DriveKind::Fixed;
+}
+
+// "de_DE.UTF-8@euro" is asked for as "de_DE" and as "de".
+std::vector<std::string> PlacesPosix::Languages() const {
+    std::vector<std::string> languages;
+    const auto add = [&](std::string name) {
+        if (!name.empty() && std::ranges::find(languages, name) == languages.end())
+            languages.push_back(std::move(name));
+    };
+    for (std::size_t at = 0; at <= sources_.Language.size();) {
+        const std::size_t end = std::min(sources_.Language.find(':', at), sources_.Language.size());
+        std::string name = sources_.Language.substr(at, end - at);
+        name.erase(std::min(name.find_first_of(".@"), name.size()));
+        add(name);
+        add(name.substr(0, name.find('_')));
+        at = end + 1;
+    }
+    return languages;
 }
 
 std::string PlacesPosix::SystemRelease() const {

@@ -18,6 +18,7 @@ struct PlacesSources {
     std::string SystemApplications = "/usr/share/applications";
     std::string MountTable = "/proc/self/mountinfo";
     std::string SysFolder = "/sys";
+    std::string Language; // as the environment names them, ":" between: "de_DE.UTF-8:en"
 };
 
 PlacesSources PlacesSourcesOfSystem();
@@ -35,6 +36,7 @@ public:
     std::string MountPoint(const std::string& path) const override { return mounts_.Holding(path).Point; }
     DriveKind KindOfDrive(const std::string& path) const override;
     std::string SystemRelease() const override;
+    std::vector<std::string> Languages() const override;
 
 private:
     std::string ConfigurationFolder() const;

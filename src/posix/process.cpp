@@ -8,6 +8,7 @@
 #include <array>
 #include <csignal>
 #include <fcntl.h>
+#include <optional>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -15,12 +16,12 @@ namespace quill {
 
 namespace {
 
-enum class Stage { Fork, Directory, Execute };
+enum class Stage { Fork, Directory, Execute, Running };
 
-// What the child says before it is gone; saying nothing means that the program runs.
-struct Complaint {
+// What the children say before they are gone. Who has heard no complaint knows that the program runs.
+struct Word {
     Stage Where = Stage::Fork;
-    int Error = 0;
+    int Number = 0; // the error; of Running the program's
 };
 
 // Everything that the child needs, made before the fork: between fork and exec nothing may be allocated.
@@ -61,10 +62,10 @@ void Prepare(const ProcessStart& start, Prepared& prepared) {
     prepared.Environment = PointersTo(prepared.Variables);
 }
 
-[[noreturn]] void Complain(int pipe, Stage stage) {
-    const Complaint complaint{stage, errno};
-    const auto told = ::write(pipe, &complaint, sizeof complaint);
-    ::_exit(told == sizeof complaint ? 0 : 1);
+[[noreturn]] void Say(int pipe, Stage stage, int number) {
+    const Word word{stage, number};
+    const auto told = ::write(pipe, &word, sizeof word);
+    ::_exit(told == sizeof word ? 0 : 1);
 }
 
 // The program gets no key of the terminal, no file of ours, and signals as if freshly logged in.
@@ -81,18 +82,18 @@ void CleanUp() {
 [[noreturn]] void RunProgram(const Prepared& prepared, int pipe) {
     CleanUp();
     if (!prepared.Directory.empty() && ::chdir(prepared.Directory.c_str()) == -1)
-        Complain(pipe, Stage::Directory);
+        Say(pipe, Stage::Directory, errno);
     ::execve(prepared.Program.c_str(), prepared.Arguments.data(), prepared.Environment.data());
-    Complain(pipe, Stage::Execute);
+    Say(pipe, Stage::Execute, errno);
 }
 
 // The child ends at once, so that the program has no parent and leaves nothing to be collected.
 [[noreturn]] void RunChild(const Prepared& prepared, int pipe) {
     ::setsid();
     const pid_t grandchild = ::fork();
-    if (grandchild == -1) Complain(pipe, Stage::Fork);
+    if (grandchild == -1) Say(pipe, Stage::Fork, errno);
     if (grandchild == 0) RunProgram(prepared, pipe);
-    ::_exit(0);
+    Say(pipe, Stage::Running, grandchild);
 }
 
 pid_t ForkChild(const Prepared& prepared, int pipe) {
@@ -107,10 +108,25 @@ pid_t ForkChild(const Prepared& prepared, int pipe) {
     return child;
 }
 
-Status StatusOf(const Complaint& complaint, const std::string& directory) {
-    Failure failure = FailureOfErrno(complaint.Error);
+Failure FailureOf(const Word& complaint, const std::string& directory) {
+    Failure failure = FailureOfErrno(complaint.Number);
     if (complaint.Where == Stage::Directory) failure.Text = directory + ": " + failure.Text;
     return failure;
+}
+
+// Until both children are silent: the one is gone, and the other is the program, or gone too.
+Result<int> Hear(int pipe, const std::string& directory) {
+    int number = 0;
+    std::optional<Failure> failure;
+    Word word;
+    while (Repeat([&] { return ::read(pipe, &word, sizeof word); }) == sizeof word) {
+        if (word.Where == Stage::Running)
+            number = word.Number;
+        else
+            failure = FailureOf(word, directory);
+    }
+    if (failure) return *failure;
+    return number;
 }
 
 bool IsProgram(const std::string& path) {
@@ -132,7 +148,7 @@ std::string FindProgram(const std::string& name) {
     return {};
 }
 
-Status StartDetached(const ProcessStart& start) {
+Result<int> StartDetached(const ProcessStart& start) {
     Prepared prepared;
     Prepare(start, prepared);
     const bool isPath = start.Program.find('/') != std::string::npos;
@@ -146,10 +162,9 @@ Status StartDetached(const ProcessStart& start) {
     const pid_t child = ForkChild(prepared, writing.Get());
     if (child == -1) return FailureOfErrno(errno);
     writing.Close();
-    Complaint complaint;
-    const auto got = Repeat([&] { return ::read(reading.Get(), &complaint, sizeof complaint); });
+    const auto heard = Hear(reading.Get(), start.Directory);
     Repeat([&] { return ::waitpid(child, nullptr, 0); });
-    return got == sizeof complaint ? StatusOf(complaint, start.Directory) : Status();
+    return heard;
 }
 
 } // namespace quill

@@ -17,9 +17,9 @@ struct ProcessStart {
     std::vector<std::pair<std::string, std::string>> Environment{}; // set on top of ours; empty value: unset
 };
 
-// Returns when the program runs or the system has refused it; the Text names the start folder when that is
-// what can't be entered.
-Status StartDetached(const ProcessStart& start);
+// Returns when the program runs or the system has refused it: its number, which is that of no child of ours;
+// the Text names the start folder when that is what can't be entered.
+Result<int> StartDetached(const ProcessStart& start);
 
 // Full path of a program by its name; empty when $PATH has none that may be executed.
 std::string FindProgram(const std::string& name);

@@ -16,9 +16,11 @@
 #include "qt/dock/qt_tray.h"
 #include "qt/dock/qt_windows.h"
 #include "qt/shortcuts/gio_shell.h"
+#include "qt/shortcuts/qt_clipboard.h"
 #include "qt/shortcuts/qt_drags.h"
 #include "qt/system/gettext_catalogue.h"
 #include "qt/system/lib_zip.h"
+#include "qt/system/qt_web.h"
 #include "qt/system/qt_worker.h"
 
 namespace quill::qt {
@@ -37,7 +39,7 @@ struct QtPlatform::Parts {
     QtClock Clock{Attached};
     QtSession Session{{Attached, Display, Open, Instance, Places, Worker}};
     QtWindows Windows{Attached, Display};
-    GioShell Shell{Worker};
+    GioShell Shell{Worker, Catalogue};
     QtQuestions Questions{Display, Open};
     QtDialogs Dialogs{Display, Open};
     QtDrags Drags{Attached, Display, Open};
@@ -46,6 +48,8 @@ struct QtPlatform::Parts {
     QtTray Tray{Attached, Display};
     QtHotkeys Hotkeys{Attached, Display};
     CountersPosix Counters;
+    QtClipboard Clipboard{Display};
+    QtWeb Web{Attached};
 
     // What runs on the thread works for the display, and ends before it.
     ~Parts() { Worker.Finish(); }
@@ -56,9 +60,10 @@ QtPlatform::~QtPlatform() = default;
 
 Platform QtPlatform::Ports() {
     auto& parts = *parts_;
-    return {parts.Files,  parts.Places,    parts.Clock,   parts.Instance, parts.Session, parts.Windows,
-            parts.Shell,  parts.Questions, parts.Dialogs, parts.Drags,    parts.Texts,   parts.Catalogue,
-            parts.Images, parts.Worker,    parts.Zip,     parts.Tray,     parts.Hotkeys, parts.Counters};
+    return {parts.Files,   parts.Places,    parts.Clock,     parts.Instance,  parts.Session,
+            parts.Windows, parts.Shell,     parts.Questions, parts.Dialogs,   parts.Drags,
+            parts.Texts,   parts.Catalogue, parts.Images,    parts.Worker,    parts.Zip,
+            parts.Tray,    parts.Hotkeys,   parts.Counters,  parts.Clipboard, parts.Web};
 }
 
 } // namespace quill::qt

@@ -8,7 +8,9 @@
 #include "platform/files.h"
 #include "platform/questions.h"
 #include "platform/shell.h"
+#include "shortcuts/foreign_text.h"
 #include "shortcuts/launch.h"
+#include "shortcuts/link_target.h"
 
 #include <algorithm>
 
@@ -19,15 +21,7 @@ namespace {
 constexpr int NetworkTimeout = 5000; // milliseconds for a picture on a server to answer
 
 std::string Trimmed(const std::string& text) {
-    const auto first = text.find_first_not_of(" \t\r\n");
-    return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-}
-
-// A separator at the end goes, but the root is nothing else.
-std::string WithoutEndSeparator(std::string path) {
-    while (path.size() > 1 && path.back() == '/') path.pop_back();
-    return path;
+    return std::string(WithoutBlanks(text));
 }
 
 // A Folder Connector shows its files by their whole names.
@@ -41,35 +35,25 @@ std::string NameOfPath(const std::string& path) {
     return name.empty() ? path : name;
 }
 
+// The file that it was is forgotten: only its name stays, without the ending.
+NewShortcut Followed(const frmMain& Main, LinkTarget link, const std::string& path) {
+    const std::string name = NameOfPath(path);
+    std::string caption = link.Caption.empty() ? name.substr(0, name.find_last_of('.')) : link.Caption;
+    caption = ShownLine(caption);
+    if (link.Kind == LinkKind::Address) {
+        NewShortcut shortcut = ShortcutForAddress(caption, link.Path);
+        shortcut.Followed = true;
+        return shortcut;
+    }
+    const std::string stored = StoredPath(Main, link.Path);
+    return {TypeFile, stored, std::move(caption), std::move(link.Parameters), std::move(link.StartIn), true};
+}
+
 void MarkPlace(frmMain& Main, const Parent& in) {
     if (in.Kind == ParentKind::ContainerFrame)
         Main.Marks.Container(in.Index);
     else
         Main.Marks.Workspace();
-}
-
-// A row with its view. Nothing is measured and no icon is asked for before it is seen.
-int AppendShortcut(frmMain& Main, std::int16_t type, std::string path, std::string caption, Parent target,
-                   Point position) {
-    const int index = Main.NextShortcutIndex;
-    const auto rows = static_cast<std::size_t>(index) + 1;
-    if (Main.Shortcuts.size() < rows) {
-        Main.Shortcuts.resize(rows);
-        Main.ShortcutViews.resize(rows);
-    }
-    Main.Shortcuts[rows - 1].Index = index;
-    clsShortcut& record = Main.Link(index);
-    record.ShortcutType = type;
-    record.Path = std::move(path);
-    record.FontSize = static_cast<std::int16_t>(Main.Settings.FontSize);
-    ShortcutView& view = Main.LinkView(index);
-    view.In = target;
-    view.lblShortcut.Place = {position.X, position.Y, 0, 0};
-    view.lblShortcut.Caption = caption;
-    record.FullCaption = std::move(caption);
-    ++Main.NextShortcutIndex;
-    ApplyShortcutStyle(Main, index);
-    return index;
 }
 
 int AppendPicture(frmMain& Main, const std::string& path, Parent target, const Rect& place) {
@@ -139,15 +123,58 @@ void ApplyShortcutStyle(frmMain& Main, int Index) {
     MarkPlace(Main, Main.LinkView(Index).In);
 }
 
+NewShortcut ShortcutForFile(const frmMain& Main, const std::string& path, Parent target) {
+    if (KeepsWholeName(Main, target)) return {TypeFile, path, ShownLine(NameOfPath(path)), {}, {}, false};
+    const LinkTarget link = Main.Settings.ExtractURLs ? ResolveLink(Main, path) : LinkTarget{};
+    if (link.Kind == LinkKind::Entry) return {TypeFile, path, link.Caption, {}, {}, false};
+    if (link.Kind != LinkKind::None) return Followed(Main, link, path);
+    return {TypeFile, path, ShownLine(CaptionOfPath(path)), {}, {}, false};
+}
+
+NewShortcut ShortcutForAddress(const std::string& label, const std::string& address) {
+    return {TypeUrl, address, ShownLine(label.empty() ? address : label), {}, {}, false};
+}
+
+// A row with its view. Nothing is measured and no icon is asked for before it is seen.
+int AddShortcut(frmMain& Main, NewShortcut shortcut, Parent target, Point position) {
+    const int index = Main.NextShortcutIndex;
+    const auto rows = static_cast<std::size_t>(index) + 1;
+    if (Main.Shortcuts.size() < rows) {
+        Main.Shortcuts.resize(rows);
+        Main.ShortcutViews.resize(rows);
+    }
+    Main.Shortcuts[rows - 1].Index = index;
+    clsShortcut& record = Main.Link(index);
+    record.ShortcutType = shortcut.Type;
+    record.Path = std::move(shortcut.Path);
+    record.Parameters = std::move(shortcut.Parameters);
+    record.StartIn = std::move(shortcut.StartIn);
+    record.FontSize = static_cast<std::int16_t>(Main.Settings.FontSize);
+    ShortcutView& view = Main.LinkView(index);
+    view.In = target;
+    view.lblShortcut.Place = {position.X, position.Y, 0, 0};
+    view.lblShortcut.Caption = shortcut.Caption;
+    record.FullCaption = std::move(shortcut.Caption);
+    ++Main.Links.CaptionsRevision;
+    ++Main.NextShortcutIndex;
+    ApplyShortcutStyle(Main, index);
+    return index;
+}
+
 void AddFile(frmMain& Main, const std::string& path, Parent target, Point position) {
-    std::string taken = Main.IsLoading ? path : WithoutEndSeparator(Trimmed(path));
-    std::string caption = KeepsWholeName(Main, target) ? NameOfPath(taken) : CaptionOfPath(taken);
-    AppendShortcut(Main, TypeFile, std::move(taken), std::move(caption), target, position);
+    if (Main.IsLoading) {
+        const bool whole = KeepsWholeName(Main, target);
+        std::string caption = whole ? NameOfPath(path) : CaptionOfPath(path);
+        AddShortcut(Main, {TypeFile, path, std::move(caption), {}, {}, false}, target, position);
+        return;
+    }
+    const std::string taken = WithoutEndSeparator(Trimmed(path));
+    AddShortcut(Main, ShortcutForFile(Main, taken, target), target, position);
 }
 
 void AddURL(frmMain& Main, Parent target, const std::string& label, const std::string& address,
             Point position) {
-    AppendShortcut(Main, TypeUrl, address, label.empty() ? address : label, target, position);
+    AddShortcut(Main, ShortcutForAddress(label, address), target, position);
 }
 
 void AddPicture(frmMain& Main, const std::string& path, Parent target, const Rect& place, bool& ok) {
@@ -156,11 +183,10 @@ void AddPicture(frmMain& Main, const std::string& path, Parent target, const Rec
         LookForPicture(Main, AppendPicture(Main, path, target, place));
         return;
     }
-    std::string stored = Trimmed(path);
+    const std::string stored = Trimmed(path);
     ok = CanShow(Main, ResolvedPath(Main, stored)) && !Main.IsExiting;
     if (!ok) return;
-    if (ShouldUseRelativePath(Main, stored)) stored = ToRelativePath(Main, stored);
-    AppendPicture(Main, stored, target, place);
+    AppendPicture(Main, StoredPath(Main, stored), target, place);
 }
 
 void DeleteShortcut(frmMain& Main, int Index) {
@@ -168,6 +194,7 @@ void DeleteShortcut(frmMain& Main, int Index) {
     SetSelection(Main, Index, false);
     RemoveFromRecent(Main, Index);
     if (Main.Links.CurrentShortcut == Index) Main.Links.CurrentShortcut = -1;
+    ++Main.Links.CaptionsRevision;
     const Parent in = Main.LinkView(Index).In;
     Main.Shortcuts[static_cast<std::size_t>(Index)] = {};
     Main.LinkView(Index) = {};

@@ -8,6 +8,7 @@
 #include "platform/clock.h"
 #include "shortcuts/create.h"
 #include "shortcuts/drop_target.h"
+#include "shortcuts/open_with.h"
 
 #include <cmath>
 #include <utility>
@@ -122,27 +123,47 @@ void BeginObjectDrag(frmMain& Main, DraggedObject object, const MouseEvent& even
     Main.Links.Carried = Lifted(Main, objects, PressOnBack(Main, object, event));
     const Point corner = CarriedCorner(Main, objects), away = Main.Links.Carried.front().FromHand;
     const int lastReleased = std::exchange(Main.Links.DragIndex, -1);
+    auto answer = DropAnswer::Refused;
     {
         const DialogPause pause(Main);
-        Main.P.Drags.StartDrag(DataOf(Main, objects), corner.X - away.X, corner.Y - away.Y);
+        answer = Main.P.Drags.StartDrag(DataOf(Main, objects), corner.X - away.X, corner.Y - away.Y);
     }
     Main.Links.DragIndex = lastReleased;
     Main.Links.Carried.clear();
+    const int program = answer == DropAnswer::Copied ? Main.Links.OpenWithTarget : -1;
     DragLeftSurface(Main);
+    if (program != -1) DropOnShortcut(Main, program, object.Index);
 }
 
 DropAnswer DragOverSurface(frmMain& Main, SurfaceId surface, const DragEvent& event, const DragData& data) {
     const auto place = DropPlaceAt(Main, surface, event.At);
     if (!place) return DropAnswer::Refused;
-    const bool taken = TakesDrop(Main, place->To, data);
+    const int program = OpenWithAt(Main, surface, event.At, data);
+    const bool taken = program == -1 && TakesDrop(Main, place->To, data, IsShiftAlone(event));
     WatchDrag(Main, *place, taken, event.Screen);
-    return taken ? DropAnswer::Copied : DropAnswer::Refused;
+    ShowOpenWith(Main, program, program == -1 ? -1 : data.Objects.front().Index);
+    return taken || program != -1 ? DropAnswer::Copied : DropAnswer::Refused;
 }
+
+namespace {
+
+// The program starts when the hand has let go of everything: while it carries, no workspace makes room.
+DropAnswer OpenDropped(frmMain& Main, int program, const DragData& data) {
+    if (Main.Links.Carried.empty())
+        DropOnShortcut(Main, program, data.Objects.front().Index);
+    else
+        Main.Links.OpenWithTarget = program;
+    return DropAnswer::Copied;
+}
+
+} // namespace
 
 DropAnswer DropOnSurface(frmMain& Main, SurfaceId surface, const DragEvent& event, const DragData& data) {
     const auto place = DropPlaceAt(Main, surface, event.At);
     if (!place) return DropAnswer::Refused;
-    return data.Objects.empty() ? DropFromOutside(Main, place->To, place->At, data)
+    if (const int program = OpenWithAt(Main, surface, event.At, data); program != -1)
+        return OpenDropped(Main, program, data);
+    return data.Objects.empty() ? DropFromOutside(Main, place->To, place->At, data, IsShiftAlone(event))
                                 : DropObjects(Main, place->To, place->At, data);
 }
 

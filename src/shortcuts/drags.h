@@ -1,7 +1,8 @@
 // Drags: shortcuts and pictures are carried between containers and the workspace, and what other programs
-// carry here becomes shortcuts. A drag of ours is a question: it runs until the hand lets go. What a drop may
-// land on, and what shows and moves while something is dragged over it, stands in shortcuts/drop_target.h.
-// No text but an address is taken yet, and nothing is put into the folder of a Folder Connector.
+// carry here becomes shortcuts. One that is dropped on a program's label is opened with it
+// (shortcuts/open_with.h). A drag of ours is a question: it runs until the hand lets go. What a drop may land
+// on, and what shows and moves while something is dragged over it, stands in shortcuts/drop_target.h.
+// Nothing is put into the folder of a Folder Connector.
 #pragma once
 
 #include "core/frmMain.h"
@@ -24,7 +25,8 @@ DropAnswer DropOnSurface(frmMain& Main, SurfaceId surface, const DragEvent& even
 // from the hand. What finds no room stays where it is, and a box says so.
 DropAnswer DropObjects(frmMain& Main, Parent to, Point at, const DragData& data);
 // Files and addresses of other programs: the first stands at the place, the others in a column below it, or
-// in the next free cells where that is taken. What lies there already is not added again.
-DropAnswer DropFromOutside(frmMain& Main, Parent to, Point at, const DragData& data);
+// in the next free cells where that is taken. What lies there already is not added again. Text becomes a
+// note, or joins one. With Shift alone the thing itself is wanted, no shortcut to it.
+DropAnswer DropFromOutside(frmMain& Main, Parent to, Point at, const DragData& data, bool ShiftAlone = false);
 
 } // namespace quill

@@ -1,209 +1,172 @@
-// What other programs drop becomes shortcuts. Nothing of theirs is moved or opened.
-#include "containers/arrange.h"
+// What other programs drop. Files and addresses become shortcuts, text becomes a note or joins one. Nothing
+// of theirs is moved or opened; only a link on the desktop that a shortcut has taken the place of goes to the
+// trash, where that is set.
 #include "containers/boundaries.h"
-#include "containers/full_size.h"
-#include "containers/layout.h"
 #include "containers/measures.h"
-#include "containers/scroll.h"
 #include "containers/selection.h"
-#include "core/objects.h"
 #include "core/tr.h"
 #include "dock/docking.h"
+#include "dock/foreground.h"
+#include "notes/text_notes.h"
 #include "persistence/save.h"
-#include "platform/questions.h"
-#include "platform/windows.h"
+#include "platform/dialogs.h"
+#include "platform/drawing.h"
+#include "platform/places.h"
+#include "platform/shell.h"
 #include "shortcuts/create.h"
 #include "shortcuts/drags.h"
 #include "shortcuts/drop_target.h"
+#include "shortcuts/folder_items.h"
+#include "shortcuts/incoming.h"
+#include "shortcuts/link_target.h"
+#include "shortcuts/placing.h"
 
 #include <algorithm>
-#include <set>
+#include <utility>
 
 namespace quill {
 namespace {
 
-constexpr Point Nowhere{-1e6F, -1e6F};
+constexpr float largestPicture = 4500; // twips of its longer side, when it is dropped
+constexpr float unknownPicture = 3000;
+constexpr int nameLetters = 15; // of a dropped text, as the name of its note
 
-struct Item {
-    bool Address = false;
-    std::string Target;
+// Nothing collapses under the hand that drops.
+class DropHold {
+public:
+    explicit DropHold(frmMain& main) : links_(main.Links), before_(std::exchange(links_.Dropping, true)) {}
+    ~DropHold() { links_.Dropping = before_; }
+    DropHold(const DropHold&) = delete;
+    DropHold& operator=(const DropHold&) = delete;
+
+private:
+    ShortcutsState& links_;
+    bool before_;
 };
 
-std::string WithoutEndSeparator(std::string path) {
-    while (path.size() > 1 && path.back() == '/') path.pop_back();
-    return path;
-}
-
-// A text counts where there is nothing else.
-std::vector<Item> ItemsOf(const DragData& data) {
-    std::vector<Item> items;
-    for (const std::string& file : data.Files)
-        if (IsLocalPath(file)) items.push_back({false, WithoutEndSeparator(file)});
-    for (const std::string& address : data.Addresses)
-        if (IsWebAddress(address)) items.push_back({true, address});
-    if (items.empty()) items.push_back({true, std::string(TrimmedText(data))});
-    return items;
-}
-
-// Paths as the file tree knows them, and addresses, of what lies in a parent.
-std::set<std::string> TargetsIn(const frmMain& Main, Parent in) {
-    std::set<std::string> targets;
-    EachShortcutIn(Main, in, [&](int link) {
-        targets.insert(WithoutEndSeparator(ResolvedPath(Main, Main.Link(link).Path)));
-    });
-    return targets;
-}
-
-// A name with line breaks in it is one line on the screen.
-std::string OneLine(std::string text) {
-    for (char& letter : text)
-        if (static_cast<unsigned char>(letter) < ' ' || letter == 127) letter = ' ';
-    return text;
-}
-
-int AddItem(frmMain& Main, const Item& item, Parent to, Point at) {
-    if (item.Address) {
-        AddURL(Main, to, "", item.Target, at);
-        return Main.NextShortcutIndex - 1;
+std::string FirstLetters(std::string_view text, int count) {
+    std::size_t end = 0;
+    for (; end < text.size(); ++end) {
+        const bool begins = (static_cast<unsigned char>(text[end]) & 0xC0) != 0x80;
+        if (begins && count-- == 0) break;
     }
-    const bool relative = ShouldUseRelativePath(Main, item.Target);
-    const std::string path = relative ? ToRelativePath(Main, item.Target) : item.Target;
-    AddFile(Main, path, to, at);
-    const int added = Main.NextShortcutIndex - 1;
-    Main.Link(added).Path = path; // blanks at the end of a name that exists belong to it
-    EruLabel& label = Main.LinkView(added).lblShortcut;
-    Main.Link(added).FullCaption = label.Caption = OneLine(label.Caption);
-    return added;
+    return std::string(text.substr(0, end));
 }
 
-bool Covers(const frmMain& Main, Parent in, const Rect& place) {
-    const auto inTheWay = [&](const Rect& other) { return other.Intersects(place); };
-    bool covered = false;
-    for (const auto& row : Live(Main.Pictures))
-        covered |= Main.PicView(row.Index).In == in && inTheWay(Main.PicView(row.Index).PicContainer);
-    if (in.Kind == ParentKind::ContainerFrame) return covered;
-    for (const auto& row : Live(Main.Containers)) {
-        const Element& box = Main.ConView(row.Index).Container;
-        covered |= box.Visible && inTheWay(box.Place);
+bool LiesOnDesktop(const frmMain& Main, const std::string& path) {
+    const std::string desktop = Main.P.Places.Folder(SpecialFolder::Desktop);
+    const bool own = !desktop.empty() && desktop != Main.P.Places.Folder(SpecialFolder::Home);
+    return own && path.substr(0, path.find_last_of('/')) == WithoutEndSeparator(desktop);
+}
+
+// Only when the shortcut that takes its place is on the disk.
+void TrashDesktopLinks(frmMain& Main, const std::vector<std::string>& links) {
+    const bool wanted = Main.Settings.DeleteDesktopShortcuts && Main.Settings.ExtractURLs;
+    if (!wanted || !MaySave(Main) || !Main.Store.SaveFailure.empty()) return;
+    for (const std::string& link : links) {
+        if (!IsLinkFileName(link) || !LiesOnDesktop(Main, link)) continue;
+        static_cast<void>(Main.P.Shell.MoveToTrash(link)); // what can't go stays where it is
     }
-    return covered;
 }
 
-bool IsFree(const frmMain& Main, Parent in, int link) {
-    const Rect label = LabelPlace(Main, link), icon = IconPlace(Main, link);
-    const Rect whole{icon.Left, label.Top, label.Right() - icon.Left, label.Height};
-    bool free = !Covers(Main, in, whole);
-    EachShortcutIn(Main, in, [&](int other) {
-        free = free && (other == link || !(whole.Intersects(LabelPlace(Main, other)) ||
-                                           whole.Intersects(IconPlace(Main, other))));
-    });
-    return free;
+// A folder that is dropped alone may become a container. False: it is to become a shortcut.
+bool BecomesContainer(frmMain& Main, const DropPlace& place, const std::vector<Incoming>& items) {
+    const bool one = place.To.Kind == ParentKind::picBack && items.size() == 1 && !items.front().Address;
+    return one && ContainerFromFolder(Main, items.front().Target, place.At);
 }
 
-float HeightOf(const frmMain& Main, Parent in) {
-    if (in.Kind == ParentKind::picBack) return Main.View.picBack.Place.Height;
-    return Main.ConView(in.Index).ScrollTop + Main.ConView(in.Index).ContainerFrame.Place.Height;
+DropAnswer DropShortcuts(frmMain& Main, const DropPlace& place, const DragData& data) {
+    const auto items = IncomingOf(data.Files, data.Addresses, TrimmedText(data));
+    UnselectLinks(Main);
+    if (BecomesContainer(Main, place, items)) return DropAnswer::Copied;
+    if (Main.IsExiting) return DropAnswer::Refused;
+    const bool shownAll = ShowsAll(Main, place.To);
+    const Added added = AddIncoming(Main, place, items);
+    FitToContent(Main, place.To, shownAll);
+    if (added.Count > 0) SaveWorkspace(Main, true, false);
+    TrashDesktopLinks(Main, added.Links);
+    TellAdded(Main, place.To, added);
+    return added.Count > 0 ? DropAnswer::Copied : DropAnswer::Refused;
 }
 
-void PutAt(frmMain& Main, int link, Point at) {
-    Rect& place = Main.LinkView(link).lblShortcut.Place;
-    place.Left = at.X;
-    place.Top = at.Y;
-    MoveLinkIcon(Main, link);
+// In its own proportions, no larger than it can be taken in at a glance.
+Size FirstSize(const frmMain& Main, const std::string& path) {
+    const Size size = Main.P.Images.PictureSize(path);
+    const float longer = std::max(size.Width, size.Height);
+    if (longer <= 0) return {unknownPicture, unknownPicture};
+    const float scale = std::min(1.0F, largestPicture / longer);
+    return {size.Width * scale, size.Height * scale};
 }
 
-void PutInFreeCell(frmMain& Main, Parent in, int link) {
-    PutAt(Main, link, Nowhere); // it holds no cell itself
-    PutAt(Main, link, NextFreeCell(Main, in));
+DropAnswer DropPicture(frmMain& Main, const DropPlace& place, const DragData& data) {
+    const std::string& path = data.Files.front();
+    const Size size = FirstSize(Main, path);
+    const Point at = ShowsPlace(Main, place) ? place.At : Point{measures::EdgeGap, measures::EdgeGap};
+    bool ok = false;
+    AddPicture(Main, path, place.To, {at.X, at.Y, size.Width, size.Height}, ok);
+    if (!ok || Main.IsExiting) return DropAnswer::Refused;
+    CheckBoundaries(Main, {MovedKind::Picture, Main.NextPictureIndex - 1}, true);
+    FitToContent(Main, place.To, false);
+    SaveWorkspace(Main, true, false);
+    return DropAnswer::Copied;
 }
 
-// Below the one before it, as long as that is free and inside; else in the next free cell.
-void PutBelow(frmMain& Main, Parent in, int link, int before) {
-    const Rect above = LabelPlace(Main, before);
-    const auto spacing = static_cast<float>(RowSpacing(Main, in));
-    PutAt(Main, link, SnapToGrid(Main, in, {above.Left, above.Bottom() + spacing}));
-    const bool inside = LabelPlace(Main, link).Bottom() <= HeightOf(Main, in);
-    if (!inside || !IsFree(Main, in, link)) PutInFreeCell(Main, in, link);
+DropAnswer Saved(frmMain& Main, bool changed) {
+    if (changed) SaveWorkspace(Main, true, false);
+    return changed ? DropAnswer::Copied : DropAnswer::Refused;
 }
 
-// before: the one that was added last, -1 for none.
-void Put(frmMain& Main, const DropPlace& place, int link, int before) {
-    SetNewLinkHeight(Main, link);
-    if (!ShowsPlace(Main, place)) return PutInFreeCell(Main, place.To, link);
-    if (before != -1) return PutBelow(Main, place.To, link, before);
-    PutAt(Main, link, SnapToGrid(Main, place.To, place.At));
-    CheckBoundaries(Main, {MovedKind::Shortcut, link}, true);
+DropAnswer DropNewNote(frmMain& Main, const DropPlace&, const DragData& data) {
+    return Saved(Main, PasteTextFromClipboard(Main, data.Text, FirstLetters(TrimmedText(data), nameLetters)));
 }
 
-struct Added {
-    int Count = 0;
-    bool All = true;  // nothing was there already
-    bool Room = true; // for each of them
+DropAnswer DropOnNote(frmMain& Main, const DropPlace& place, const DragData& data) {
+    AppendToNote(Main, place.To.Index, data.Text);
+    return Saved(Main, true);
+}
+
+DropAnswer DropText(frmMain& Main, const DropPlace&, const DragData& data) {
+    TextQuestion question{Tr(Main, "Paste Text"), {}, DroppedText(data)};
+    {
+        const DialogPause pause(Main);
+        if (!Main.P.Dialogs.Show(question) || Main.IsExiting) return DropAnswer::Refused;
+    }
+    return Saved(Main, PasteTextFromClipboard(Main, question.Text, Tr(Main, "Clipboard Text")));
+}
+
+DropAnswer DropTextFile(frmMain& Main, const DropPlace&, const DragData& data) {
+    AddNoteFromTextFile(Main, data.Files.front());
+    return DropAnswer::Copied;
+}
+
+void TakePlace(frmMain& Main, const DropPlace& place) {
+    if (place.To.Kind == ParentKind::ContainerFrame)
+        Main.Group.CurrentContainer = place.To.Index;
+    else
+        Main.Group.NewContainerPos = place.At;
+    ForceForeground(Main);
+}
+
+struct OutcomeRow {
+    DropOutcome Outcome;
+    DropAnswer (*Act)(frmMain&, const DropPlace&, const DragData&);
 };
 
-Added AddAll(frmMain& Main, const DropPlace& place, const std::vector<Item>& items) {
-    Added added;
-    auto there = TargetsIn(Main, place.To);
-    const int room = RoomFor(Main, place.To);
-    int last = -1;
-    for (const Item& item : items) {
-        if (!there.insert(item.Target).second) {
-            added.All = false;
-            continue;
-        }
-        added.Room = added.Count < room;
-        if (!added.Room) break;
-        const int link = AddItem(Main, item, place.To, place.At);
-        Put(Main, place, link, last);
-        SetSelection(Main, link, true);
-        last = link;
-        ++added.Count;
-    }
-    return added;
-}
-
-// A container whose frame has shown everything goes on showing everything, as far as the workspace reaches.
-void GrowToContent(frmMain& Main, int container) {
-    Rect& place = Main.ConView(container).Container.Place;
-    const float lowest = Main.View.picBack.Place.Height - measures::EdgeGap - place.Top;
-    const float needed = measures::ContainerTitle + ContentHeight(Main, container) + measures::FootHeight;
-    const float height = std::min(needed, lowest);
-    if (height <= place.Height) return;
-    place.Height = height;
-    RememberPresentSize(Main, container);
-    SetObjectRelativeSize(Main, container);
-    DoRoundGradResizeSym(Main, container, true);
-}
-
-bool ShowsAll(const frmMain& Main, Parent in) {
-    return in.Kind == ParentKind::ContainerFrame && IsOpenFrame(Main, in.Index) &&
-           !Main.ConView(in.Index).VScroll.Visible;
-}
-
-void TellDuplicates(frmMain& Main) {
-    const DialogPause pause(Main);
-    Main.P.Questions.MsgBox(Tr(Main, "Duplicate items were not added."), BoxWarning, ProgramName);
-}
+constexpr OutcomeRow outcomes[] = {
+    {DropOutcome::Shortcuts, &DropShortcuts},   {DropOutcome::Picture, &DropPicture},
+    {DropOutcome::NoteText, &DropOnNote},       {DropOutcome::NewNote, &DropNewNote},
+    {DropOutcome::NoteFromFile, &DropTextFile}, {DropOutcome::TextDialog, &DropText},
+};
 
 } // namespace
 
-DropAnswer DropFromOutside(frmMain& Main, Parent to, Point at, const DragData& data) {
-    if (!data.Objects.empty() || !OpensForDrop(Main, to, data)) return DropAnswer::Refused;
-    if (to.Kind == ParentKind::ContainerFrame)
-        Main.Group.CurrentContainer = to.Index;
-    else
-        Main.Group.NewContainerPos = at;
-    Main.P.Windows.SetForegroundWindow(MainWindow);
-    UnselectLinks(Main);
-    const bool shownAll = ShowsAll(Main, to);
-    const Added added = AddAll(Main, {to, at}, ItemsOf(data));
-    if (to.Kind == ParentKind::ContainerFrame) LayScrollBar(Main, to.Index);
-    if (shownAll && Main.ConView(to.Index).VScroll.Visible) GrowToContent(Main, to.Index);
-    MarkParent(Main, to);
-    if (added.Count > 0) SaveWorkspace(Main, true, false);
-    if (!added.Room) TellLimit(Main, to);
-    if (!added.All && !Main.IsExiting) TellDuplicates(Main);
-    return added.Count > 0 ? DropAnswer::Copied : DropAnswer::Refused;
+DropAnswer DropFromOutside(frmMain& Main, Parent to, Point at, const DragData& data, bool ShiftAlone) {
+    if (!data.Objects.empty() || !OpensForDrop(Main, to, data, ShiftAlone)) return DropAnswer::Refused;
+    const DropHold hold(Main);
+    TakePlace(Main, {to, at});
+    const auto found =
+        std::ranges::find(outcomes, OutcomeOf(Main, to, data, ShiftAlone), &OutcomeRow::Outcome);
+    return found == std::end(outcomes) ? DropAnswer::Refused : found->Act(Main, {to, at}, data);
 }
 
 } // namespace quill

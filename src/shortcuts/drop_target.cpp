@@ -9,6 +9,8 @@
 #include "dock/docking.h"
 #include "platform/clock.h"
 #include "platform/questions.h"
+#include "shortcuts/foreign_text.h"
+#include "shortcuts/open_with.h"
 
 #include <algorithm>
 #include <array>
@@ -21,32 +23,67 @@ constexpr auto addressSchemes =
     std::to_array<std::string_view>({"http://", "https://", "ftp://", "ftps://", "sftp://", "smb://",
                                      "nfs://", "dav://", "davs://", "mailto:"});
 
+bool AnyFile(const DragData& data) {
+    return std::ranges::any_of(data.Files, &IsLocalPath);
+}
+
+bool AnyTarget(const DragData& data) {
+    return AnyFile(data) || std::ranges::any_of(data.Addresses, &IsWebAddress);
+}
+
 // What a Folder Connector shows are the files of its folder: they are put in order there, and nothing joins
 // them.
-bool TakesInContainer(const frmMain& Main, const Parent& to, const DragData& data) {
-    if (!IsLive(Main.Containers, to.Index) || Main.Con(to.Index).Encrypted) return false;
-    const auto kind = KindOf(Main, to.Index);
-    if (kind == ContainerKind::Feed || kind == ContainerKind::Reminder) return false;
-    if (kind != ContainerKind::FolderConnector) return true;
-    return !data.Objects.empty() && std::ranges::all_of(data.Objects, [&](const auto& object) {
-        return IsThere(Main, object) && ParentOf(Main, object) == to;
-    });
+DropOutcome OutcomeOfObjects(const frmMain& Main, const Parent& to, const DragData& data) {
+    const auto there = [&](const auto& object) { return IsThere(Main, object); };
+    const auto lies = [&](const auto& object) { return there(object) && ParentOf(Main, object) == to; };
+    if (to.Kind == ParentKind::ContainerFrame) {
+        if (!IsOpenToDrops(Main, to.Index)) return DropOutcome::Nothing;
+        if (KindOf(Main, to.Index) == ContainerKind::FolderConnector &&
+            !std::ranges::all_of(data.Objects, lies))
+            return DropOutcome::Nothing;
+    }
+    return std::ranges::any_of(data.Objects, there) ? DropOutcome::Objects : DropOutcome::Nothing;
 }
 
-Edit EditOf(const DragData& data) {
-    const bool picturesOnly = !data.Objects.empty() && std::ranges::all_of(data.Objects, &IsPicture);
-    return picturesOnly ? Edit::Containers : Edit::Shortcuts;
+// Only the first file counts.
+DropOutcome OutcomeOfShift(const DragData& data) {
+    if (!AnyFile(data)) return DroppedText(data).empty() ? DropOutcome::Nothing : DropOutcome::TextDialog;
+    const std::string& first = data.Files.front();
+    if (!IsLocalPath(first)) return DropOutcome::Nothing;
+    if (IsPictureFile(first)) return DropOutcome::Picture;
+    return EndsInAnyCase(first, "txt") ? DropOutcome::NoteFromFile : DropOutcome::Nothing;
 }
 
-bool IsLockedFor(const frmMain& Main, const DragData& data) {
-    return EditOf(data) == Edit::Containers ? !MayMoveContainers(Main) : !MayMoveShortcuts(Main);
+DropOutcome OutcomeOnWorkspace(const DragData& data, bool ShiftAlone) {
+    if (ShiftAlone) return OutcomeOfShift(data);
+    if (AnyTarget(data) || IsWebAddress(TrimmedText(data))) return DropOutcome::Shortcuts;
+    return TrimmedText(data).empty() ? DropOutcome::Nothing : DropOutcome::NewNote;
 }
 
-bool HoldsSomething(const frmMain& Main, const DragData& data) {
-    if (data.Objects.empty())
-        return std::ranges::any_of(data.Files, &IsLocalPath) ||
-               std::ranges::any_of(data.Addresses, &IsWebAddress) || IsWebAddress(TrimmedText(data));
-    return std::ranges::any_of(data.Objects, [&](const auto& object) { return IsThere(Main, object); });
+DropOutcome OutcomeInContainer(const frmMain& Main, int container, const DragData& data, bool ShiftAlone) {
+    if (!IsOpenToDrops(Main, container)) return DropOutcome::Nothing;
+    const bool ownFolder = KindOf(Main, container) == ContainerKind::FolderConnector;
+    if (AnyTarget(data) || IsWebAddress(TrimmedText(data))) {
+        if (ownFolder) return DropOutcome::Nothing;
+        const bool picture = ShiftAlone && data.Files.size() == 1 && IsPictureFile(data.Files.front());
+        return picture ? DropOutcome::Picture : DropOutcome::Shortcuts;
+    }
+    const bool onNote = Main.ConView(container).ContainerNote.Visible && !TrimmedText(data).empty();
+    return onNote ? DropOutcome::NoteText : DropOutcome::Nothing;
+}
+
+// None: it holds nothing that is changed. A new note, or more text in one, is no edit that it keeps away.
+std::optional<Edit> EditOf(const DragData& data, DropOutcome outcome) {
+    const bool pictures = outcome == DropOutcome::Picture ||
+                          (!data.Objects.empty() && std::ranges::all_of(data.Objects, &IsPicture));
+    if (pictures) return Edit::Containers;
+    const bool links = outcome == DropOutcome::Objects || outcome == DropOutcome::Shortcuts;
+    return links ? std::optional(Edit::Shortcuts) : std::nullopt;
+}
+
+bool IsLockedFor(const frmMain& Main, std::optional<Edit> edit) {
+    if (!edit) return false;
+    return *edit == Edit::Containers ? !MayMoveContainers(Main) : !MayMoveShortcuts(Main);
 }
 
 void MarkOver(frmMain& Main) {
@@ -106,13 +143,33 @@ std::optional<DropPlace> DropPlaceAt(const frmMain& Main, SurfaceId surface, Poi
     return DropPlace{picture.In, {picture.PicContainer.Left + at.X, picture.PicContainer.Top + at.Y}};
 }
 
-bool TakesDrop(const frmMain& Main, Parent to, const DragData& data) {
-    if (Main.Group.FrameLinkGroup || IsLockedFor(Main, data) || !HoldsSomething(Main, data)) return false;
-    return to.Kind == ParentKind::picBack || TakesInContainer(Main, to, data);
+bool IsOpenToDrops(const frmMain& Main, int container) {
+    if (!IsLive(Main.Containers, container) || Main.Con(container).Encrypted) return false;
+    const auto kind = KindOf(Main, container);
+    return kind != ContainerKind::Feed && kind != ContainerKind::Reminder;
 }
 
-bool OpensForDrop(frmMain& Main, Parent to, const DragData& data) {
-    return TakesDrop(Main, to, data) && NeedsEdit(Main, EditOf(data));
+bool TakesShortcuts(const frmMain& Main, Parent to) {
+    if (to.Kind == ParentKind::picBack) return true;
+    return IsOpenToDrops(Main, to.Index) && KindOf(Main, to.Index) != ContainerKind::FolderConnector;
+}
+
+DropOutcome OutcomeOf(const frmMain& Main, Parent to, const DragData& data, bool ShiftAlone) {
+    if (!data.Objects.empty()) return OutcomeOfObjects(Main, to, data);
+    if (to.Kind == ParentKind::picBack) return OutcomeOnWorkspace(data, ShiftAlone);
+    return OutcomeInContainer(Main, to.Index, data, ShiftAlone);
+}
+
+bool TakesDrop(const frmMain& Main, Parent to, const DragData& data, bool ShiftAlone) {
+    const DropOutcome outcome = OutcomeOf(Main, to, data, ShiftAlone);
+    return !Main.Group.FrameLinkGroup && outcome != DropOutcome::Nothing &&
+           !IsLockedFor(Main, EditOf(data, outcome));
+}
+
+bool OpensForDrop(frmMain& Main, Parent to, const DragData& data, bool ShiftAlone) {
+    if (!TakesDrop(Main, to, data, ShiftAlone)) return false;
+    const auto edit = EditOf(data, OutcomeOf(Main, to, data, ShiftAlone));
+    return !edit || NeedsEdit(Main, *edit);
 }
 
 bool IsOpenFrame(const frmMain& Main, int Index) {
@@ -129,12 +186,21 @@ bool IsLocalPath(std::string_view path) {
     return path.starts_with('/') && path.find('\0') == path.npos;
 }
 
+bool IsPictureFile(std::string_view path) {
+    constexpr auto endings = std::to_array<std::string_view>({".jpg", ".gif", ".bmp", "jpeg"});
+    const auto trimmed = WithoutBlanks(path);
+    return std::ranges::any_of(endings, [&](auto ending) { return EndsInAnyCase(trimmed, ending); });
+}
+
 std::string_view TrimmedText(const DragData& data) {
-    constexpr std::string_view blanks = " \t\r\n";
-    const std::string_view text = data.Text;
-    const auto first = text.find_first_not_of(blanks);
-    if (first == text.npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    return WithoutBlanks(data.Text);
+}
+
+std::string DroppedText(const DragData& data) {
+    if (!TrimmedText(data).empty()) return data.Text;
+    std::string text;
+    for (const std::string& address : data.Addresses) text += (text.empty() ? "" : "\n") + address;
+    return text;
 }
 
 bool IsWebAddress(std::string_view text) {
@@ -161,6 +227,7 @@ void WatchDrag(frmMain& Main, const DropPlace& place, bool taken, Point screen) 
 
 void DragLeftSurface(frmMain& Main) {
     MarkOver(Main);
+    ShowOpenWith(Main, -1, -1);
     SetScrollStep(Main, 0);
     Main.Links.Dragged = {};
     DragLeftContainer(Main);

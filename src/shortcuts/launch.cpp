@@ -8,6 +8,8 @@
 #include "platform/shell.h"
 #include "platform/windows.h"
 #include "shortcuts/create.h"
+#include "shortcuts/open_with.h"
+#include "shortcuts/properties.h"
 
 #include <system_error>
 
@@ -85,16 +87,34 @@ LaunchRequest RequestOf(const Launch& launch) {
 
 // A failed start is recent like a good one.
 void RecordStart(frmMain& Main, const Launch& launch, const Status& status) {
-    if (!status.Ok() && status.Error().Kind != Reason::Refused) ShowLaunchError(Main, status.Error().Text);
+    if (status.Ok()) ++Main.Links.Starts;
+    if (!status.Ok()) ShowLaunchError(Main, launch.Shortcut, status.Error());
     if (!StillWanted(Main, launch)) return;
     UpdateRecent(Main, launch.Shortcut);
     SaveWorkspace(Main, true, false);
 }
 
+// The pointer of who waits, until the end of the block.
+class Busy {
+public:
+    explicit Busy(frmMain& main) : windows_(main.P.Windows) { windows_.ShowBusy(true); }
+    ~Busy() { windows_.ShowBusy(false); }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+private:
+    Windows& windows_;
+};
+
+Status Started(frmMain& Main, const Launch& launch) {
+    const Busy busy(Main);
+    if (!launch.SkipPreLaunch) PreLaunch(Main);
+    return Main.P.Shell.ShellExecute(RequestOf(launch));
+}
+
 void StartNow(frmMain& Main, Launch launch) {
     if (!ParametersSettled(Main, launch)) return;
-    if (!launch.SkipPreLaunch) PreLaunch(Main);
-    RecordStart(Main, launch, Main.P.Shell.ShellExecute(RequestOf(launch)));
+    RecordStart(Main, launch, Started(Main, launch));
 }
 
 Failure NotThere() {
@@ -106,7 +126,9 @@ Failure NotThere() {
 // that it needs in the launch itself, when there is an answer.
 void StartWhenReached(frmMain& Main, Launch launch) {
     const std::string path = launch.Path;
+    Main.P.Windows.ShowBusy(true);
     Main.P.Shell.PathFileExists(path, NetworkTimeout, [&Main, launch = std::move(launch)](bool there) {
+        Main.P.Windows.ShowBusy(false);
         if (!StillWanted(Main, launch)) return;
         if (there)
             StartNow(Main, launch);
@@ -117,29 +139,38 @@ void StartWhenReached(frmMain& Main, Launch launch) {
 
 } // namespace
 
-void StartShortcut(frmMain& Main, int Index, bool NoTagStart, const std::string& OverrideParameters,
-                   bool ForceAdmin, bool SkipPreLaunch) {
-    static_cast<void>(NoTagStart); // the start of a whole tag is not built: every shortcut starts itself
-    if (Main.IsExiting || !IsLive(Main.Shortcuts, Index)) return;
-    Main.Links.CurrentShortcut = Index;
+Launch LaunchOf(const frmMain& Main, int Index) {
     const clsShortcut& record = Main.Link(Index);
     Launch launch;
     launch.Shortcut = Index;
     launch.Confirm = record.Confirm;
     if (record.Confirm) launch.Caption = record.FullCaption;
-    launch.Parameters = OverrideParameters.empty() ? record.Parameters : OverrideParameters;
+    launch.Parameters = record.Parameters;
     launch.Path = record.Path;
     launch.StartIn = record.StartIn;
     launch.RunIn = record.RunIn;
     launch.Command = record.Command;
-    launch.Admin = ForceAdmin || record.Admin;
+    launch.Admin = record.Admin;
     launch.Prompt = record.PromptParameters;
+    return launch;
+}
+
+void StartShortcut(frmMain& Main, int Index, bool NoTagStart, const std::string& OverrideParameters,
+                   bool ForceAdmin, bool SkipPreLaunch) {
+    if (Main.IsExiting || !IsLive(Main.Shortcuts, Index)) return;
+    Main.Links.CurrentShortcut = Index;
+    if (Main.Link(Index).TagStart && !NoTagStart)
+        return StartAllWithTag(Main, std::string(Main.Link(Index).Tags));
+    Launch launch = LaunchOf(Main, Index);
+    if (!OverrideParameters.empty()) launch.Parameters = OverrideParameters;
+    launch.Admin = ForceAdmin || launch.Admin;
     launch.SkipPreLaunch = SkipPreLaunch;
     LinkClick(Main, std::move(launch));
 }
 
 void LinkClick(frmMain& Main, Launch launch) {
-    if (Main.Links.DragIndex == -1) return; // a shortcut that was dragged does not start on release
+    // A shortcut that was dragged does not start on release.
+    if (Main.Links.DragIndex == -1) return Main.P.Windows.ShowBusy(false);
     if (!Confirmed(Main, launch) || !StillWanted(Main, launch)) return;
     launch.StartIn = ResolvedPath(Main, launch.StartIn);
     if (!launch.Command) launch.Path = TargetOf(Main, launch);
@@ -159,14 +190,14 @@ void PreLaunch(frmMain& Main) {
     Main.Dock.ZOrderAsserted = true;
 }
 
-void ShowLaunchError(frmMain& Main, const std::string& text) {
-    if (Main.Links.ErrorShowing) return;
-    Main.Links.ErrorShowing = true;
-    {
-        const DialogPause pause(Main);
-        Main.P.Questions.MsgBox(Tr(Main, "Error: %1", text), BoxOk | BoxWarning, ProgramName);
-    }
-    Main.Links.ErrorShowing = false;
+// What the person has refused is no news to them. Words of ours are still to be put in their language; the
+// system's are in it.
+void ShowLaunchError(frmMain& Main, int Shortcut, const Failure& failure) {
+    if (failure.Kind == Reason::Refused || Main.Links.PropertiesOpen) return;
+    if (Main.IsExiting || !IsLive(Main.Shortcuts, Shortcut)) return;
+    const bool ours = failure.Kind == Reason::Damaged;
+    ShowShortcutProperties(Main,
+                           {.Index = Shortcut, .ErrorText = ours ? Tr(Main, failure.Text) : failure.Text});
 }
 
 } // namespace quill

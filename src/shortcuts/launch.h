@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/frmMain.h"
+#include "platform/result.h"
 
 #include <string>
 
@@ -10,7 +11,8 @@ namespace quill {
 
 struct MouseEvent;
 
-// An empty OverrideParameters means the record's own; one blank means none.
+// An empty OverrideParameters means the record's own; one blank means none. A shortcut with TagStart starts
+// all that share its tags instead, unless NoTagStart says that it is meant itself.
 void StartShortcut(frmMain& Main, int Index, bool NoTagStart, const std::string& OverrideParameters,
                    bool ForceAdmin, bool SkipPreLaunch);
 
@@ -22,13 +24,16 @@ struct Launch {
     int RunIn = 1;
     bool Command = false, Admin = false, Prompt = false, SkipPreLaunch = false;
 };
+// All of it from the record; the caption only where the start is asked about.
+Launch LaunchOf(const frmMain& Main, int Index);
 // Confirmation, paths, parameters, PreLaunch, the start, the recent list, in this order. A shortcut that died
 // while something was waited for is not started.
 void LinkClick(frmMain& Main, Launch launch);
 void PreLaunch(frmMain& Main);
 
-// What a failed start tells: "Error: " and the system's text, one at a time.
-void ShowLaunchError(frmMain& Main, const std::string& text);
+// A failed start tells the system's text in the shortcut's properties, so that the target can be mended at
+// once. While those are open a second failure tells nothing.
+void ShowLaunchError(frmMain& Main, int Shortcut, const Failure& failure);
 
 // Recent list.
 void UpdateRecent(frmMain& Main, int Shortcut);

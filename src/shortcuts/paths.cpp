@@ -33,6 +33,11 @@ std::string ProgramDrive(const frmMain& Main) {
 
 } // namespace
 
+std::string WithoutEndSeparator(std::string path) {
+    while (path.size() > 1 && path.back() == '/') path.pop_back();
+    return path;
+}
+
 std::string CaptionOfPath(const std::string& path) {
     std::string name = path.substr(path.find_last_of('/') + 1);
     if (name.empty()) return path; // the root
@@ -64,6 +69,10 @@ bool ShouldUseRelativePath(const frmMain& Main, const std::string& path) {
     const Places& places = Main.P.Places;
     return places.MountPoint(path) == places.MountPoint(places.ProgramFolder()) &&
            places.KindOfDrive(path) != DriveKind::Fixed;
+}
+
+std::string StoredPath(const frmMain& Main, const std::string& path) {
+    return ShouldUseRelativePath(Main, path) ? ToRelativePath(Main, path) : path;
 }
 
 std::string ResolvedPath(const frmMain& Main, const std::string& path) {

@@ -4,6 +4,7 @@
 #include "platform/drags.h"
 #include "platform/geometry.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -35,6 +36,23 @@ struct DragWatch {
     float ScrollStep = 0; // of its frame at each tick of TimerScrollOnDrag, twips; 0: it rests
 };
 
+inline constexpr int SpeedLaunchSlots = 9;
+
+struct SpeedLaunchRow {
+    int Shortcut = -1; // table index; -1: the slot is empty
+    std::string Caption;
+};
+
+// frmQuickLaunch while it is open; a window of its own.
+struct QuickLaunchView {
+    bool Loaded = false;
+    Rect Place;        // on the virtual desktop, twips
+    int Selected = -1; // row from 0; -1: the marker is hidden
+    std::array<SpeedLaunchRow, SpeedLaunchSlots> Rows;
+    bool HadKeyboard = false; // since it was opened
+    int TicksWithout = 0;     // of TimeUnload, until it had the keyboard first
+};
+
 struct ShortcutsState {
     int CurrentShortcut = -1;
     int DragIndex = -2; // -1 from the start of a drag to the end of its release, -2 by keyboard, else the
@@ -47,7 +65,13 @@ struct ShortcutsState {
     std::vector<std::string> Subjects;  // subjects to track, at most MaxSubjects
     std::int64_t PressTick = 0;         // GetTickCount of the last press on a label
     int ClickStarted = -1;              // shortcut that the last release has started; -1 after a press
+    std::uint32_t Starts = 0;           // counts every start that the system has taken
     bool ErrorShowing = false;          // a failed start is being told
+    bool PropertiesOpen = false;        // the properties dialog is
+    bool Dropping = false;              // a drop is being taken; nothing collapses meanwhile
+    std::uint32_t CaptionsRevision = 1; // counts every change of a FullCaption, and rows that come or go
+    QuickLaunchView QuickLaunch;
+    int OpenWithTarget = -1; // the shortcut that what is dragged would be opened with; -1: none
 };
 
 } // namespace quill

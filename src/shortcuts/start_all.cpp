@@ -28,6 +28,8 @@ std::vector<int> ShortcutsIn(const frmMain& Main, int Index) {
 
 } // namespace
 
+// The window that has the keyboard afterwards is not asked to keep it: that wish would be younger than the
+// starts, and the windows of all that was started would open behind it.
 void StartAllInContainer(frmMain& Main, int Index) {
     if (!IsLive(Main.Containers, Index)) return;
     PreLaunch(Main);

@@ -4,10 +4,12 @@
 #include "containers/workspace_fixture.h"
 #include "core/caption.h"
 #include "dock/hotkey.h"
+#include "keyboard/web_search.h"
 #include "persistence/settings_table.h"
 
 #include <algorithm>
 #include <set>
+#include <string>
 
 namespace quill {
 namespace {
@@ -103,9 +105,18 @@ TEST_F(Settings, EachCheckBoxIsOfTheOptionThatItsCaptionTells) {
         {"&Double-Click to Start All", &S::DblClickToStartAll},
         {"&Confirm 'Start all shortcuts'", &S::ConfirmStartAllShortcuts},
         {"&Double-Click to Start", &S::DblClick},
+        {"Confirm '&Open with...'", &S::ConfirmOpenWith},
+        {"&Resolve", &S::ExtractURLs},
+        {"&Delete Desktop Shortcuts", &S::DeleteDesktopShortcuts},
+        {"&Container from Folder", &S::ContainerFromFolder},
         {"&Tooltips", &S::ShortcutTooltips},
         {"&Command Icon Overlay", &S::CommandOverlay},
         {"&Global Hotkey:", &S::GlobalHotkey},
+        {"Open &Keyboard Launcher", &S::ShowKBLauncher},
+        {"Keyboard Launcher &Tips", &S::KBLauncherTips},
+        {"Keyboard Launcher History:", &S::KeyboardHistory},
+        {"Start Web Search on Spacebar", &S::SearchOnSpace},
+        {"&Speed Launch / Calculator", &S::CalcOrSpeedLaunch},
     };
     std::size_t place = 0;
     for (const auto& control : SettingsControls()) {
@@ -261,16 +272,140 @@ TEST_F(Settings, TheOpacityIsANumberWithinItsBoundsOrStaysAsItWas) {
     }
 }
 
+struct HistoryRow {
+    const char* Text;
+    float Count;
+    const char* Why;
+};
+
+TEST_F(Settings, TheLengthOfTheHistoryIsANumberWithinItsBoundsOrStaysAsItWas) {
+    for (const HistoryRow& row : {
+             HistoryRow{"30", 30, "a number"},
+             HistoryRow{"5", 5, "the least"},
+             HistoryRow{"4", 5, "below the least"},
+             HistoryRow{"-1", 5, "far below"},
+             HistoryRow{"50", 50, "the most"},
+             HistoryRow{"51", 50, "above the most"},
+             HistoryRow{"999999", 50, "far above"},
+             HistoryRow{"", 20, "empty"},
+             HistoryRow{"many", 20, "no number"},
+         }) {
+        Main.Settings.KeyboardHistoryCount = 20;
+        Open([&](frmSettings& dialog) {
+            EXPECT_EQ(dialog.Controls.txtKBLauncherHistory, "20");
+            dialog.Controls.txtKBLauncherHistory = row.Text;
+            dialog.Option_Click();
+            dialog.cmdApply_Click();
+            EXPECT_EQ(std::stof(dialog.Controls.txtKBLauncherHistory), row.Count)
+                << row.Why << ", as it is shown";
+            return true;
+        });
+        EXPECT_EQ(Main.Settings.KeyboardHistoryCount, row.Count) << row.Why;
+    }
+}
+
+// ---- the web search
+
+// What a person does to one control, and what that does to the others.
+void Put(SettingsValues& values, const char* control, int place) {
+    values.*Named(control).Choice = place;
+    Named(control).Follow(values);
+}
+void Put(SettingsValues& values, const char* control, const std::string& text) {
+    values.*Named(control).Text = text;
+    Named(control).Follow(values);
+}
+
+TEST_F(Settings, TheSearchEnginesAreOfferedBehindSelect) {
+    const auto entries = EntriesOf(Named("CboSearchEngines"));
+    ASSERT_EQ(entries.size(), SearchEngines().size() + 1);
+    EXPECT_STREQ(entries[0].Caption, "Select...");
+    for (std::size_t place = 1; place < entries.size(); ++place)
+        EXPECT_EQ(entries[place].Caption, SearchEngines()[place - 1].Name);
+}
+
+TEST_F(Settings, ChoosingAnEngineWritesItsAddressIntoTheBox) {
+    const auto engines = SearchEngines();
+    ASSERT_FALSE(engines.empty());
+    for (std::size_t place = 0; place < engines.size(); ++place) {
+        Main.Settings.WebSearch = "https://example.org/?find=%s";
+        Change([&](SettingsValues& now) {
+            Put(now, "CboSearchEngines", static_cast<int>(place) + 1);
+            EXPECT_EQ(now.txtWebSearch, engines[place].Address);
+        });
+        EXPECT_EQ(Main.Settings.WebSearch, engines[place].Address);
+        EXPECT_TRUE(HasSaved("[Web Search]", std::string(engines[place].Address)));
+    }
+}
+
+TEST_F(Settings, TheListShowsTheEngineWhoseAddressIsSet) {
+    for (std::size_t place = 0; place < SearchEngines().size(); ++place) {
+        Main.Settings.WebSearch = SearchEngines()[place].Address;
+        EXPECT_EQ(ReadControls(Main.Settings).CboSearchEngines, static_cast<int>(place) + 1);
+    }
+}
+
+TEST_F(Settings, TheListStaysAtSelectForACustomAddressAndTheAddressIsStored) {
+    const std::string custom = "https://search.example.org/find?q=%s&lang=en";
+    Change([&](SettingsValues& now) {
+        Put(now, "txtWebSearch", custom);
+        EXPECT_EQ(now.CboSearchEngines, 0);
+    });
+    EXPECT_EQ(Main.Settings.WebSearch, custom);
+    Open([&](frmSettings& dialog) {
+        EXPECT_EQ(dialog.Controls.txtWebSearch, custom);
+        EXPECT_EQ(dialog.Controls.CboSearchEngines, 0);
+        return false;
+    });
+}
+
+TEST_F(Settings, AnAddressThatIsTypedInFullIsSeenAsItsEngines) {
+    auto now = ReadControls(Main.Settings);
+    Put(now, "txtWebSearch", std::string(SearchEngines().back().Address));
+    EXPECT_EQ(now.CboSearchEngines, static_cast<int>(SearchEngines().size()));
+}
+
+TEST_F(Settings, GoingBackToSelectLeavesTheAddress) {
+    auto now = ReadControls(Main.Settings);
+    Put(now, "txtWebSearch", "https://example.org/%s");
+    Put(now, "CboSearchEngines", 0);
+    EXPECT_EQ(now.txtWebSearch, "https://example.org/%s");
+    Put(now, "CboSearchEngines", -1);
+    Put(now, "CboSearchEngines", 999);
+    EXPECT_EQ(now.txtWebSearch, "https://example.org/%s") << "a place that is not offered";
+}
+
+TEST_F(Settings, AnEmptiedAddressMeansTheFirstEngineAndIsShownAsThat) {
+    Change([&](SettingsValues& now) { Put(now, "txtWebSearch", "  "); });
+    EXPECT_EQ(Main.Settings.WebSearch, "");
+    const auto now = ReadControls(Main.Settings);
+    EXPECT_EQ(now.txtWebSearch, SearchEngines().front().Address);
+    EXPECT_EQ(now.CboSearchEngines, 1);
+    Change([](SettingsValues& values) { values.chkSettings.MiniDockFlash = false; });
+    EXPECT_EQ(Main.Settings.WebSearch, "") << "what was only shown is not written";
+}
+
 TEST_F(Settings, NothingIsShownWhoseSettingHasNoControl) {
-    std::set<std::string> names;
-    for (const auto& control : SettingsControls()) names.insert(control.Name);
-    for (const char* name : {"txtWebSearch", "CboSearchEngines", "txtKBLauncherHistory"})
-        EXPECT_FALSE(names.contains(name)) << name;
     for (const auto& control : SettingsControls()) {
         if (control.Check == nullptr) continue;
-        EXPECT_NE(control.Check, &S::RememberParams);
+        EXPECT_NE(control.Check, &S::RememberParams) << "the box of the parameters prompt has it";
         EXPECT_NE(control.Check, &S::CheckForUpdatesOnStartup);
         EXPECT_NE(control.Check, &S::FolderConnector);
+    }
+}
+
+TEST_F(Settings, EachControlLiesOnThePageOfWhatItIsAbout) {
+    using enum SettingsPage;
+    for (const auto& control : SettingsControls()) {
+        const std::string name = control.Name;
+        if (name == "txtWebSearch" || name == "CboSearchEngines" || name == "txtKBLauncherHistory")
+            EXPECT_EQ(control.Page, FrameKBNavigation) << name;
+        for (const auto field : {&S::ConfirmOpenWith, &S::ExtractURLs, &S::DeleteDesktopShortcuts,
+                                 &S::ContainerFromFolder, &S::ShortcutTooltips})
+            if (control.Check == field) EXPECT_EQ(control.Page, FrameShortcuts) << control.Caption;
+        for (const auto field : {&S::ShowKBLauncher, &S::KBLauncherTips, &S::KeyboardHistory,
+                                 &S::SearchOnSpace, &S::CalcOrSpeedLaunch})
+            if (control.Check == field) EXPECT_EQ(control.Page, FrameKBNavigation) << control.Caption;
     }
 }
 

@@ -198,6 +198,7 @@ TEST_F(ElementsOf, SurfacesComeInStackingOrderWithTheWorkspaceBelow) {
                                                       {SurfaceKind::Container, two},
                                                       {SurfaceKind::Picture, picture},
                                                       {SurfaceKind::Container, one},
+                                                      {SurfaceKind::JumpTo, -1},
                                                       {SurfaceKind::Overlay, -1}}));
 }
 

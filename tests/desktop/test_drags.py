@@ -206,6 +206,18 @@ class Drags(DesktopTest):
         self.carry(self.at(1150, 1620), middle)
         until(lambda: "proposed" in other.stdout, "it is dropped: " + other.stdout)
         self.assertIn("dropped text/uri-list " + quote("https://a.example/x?y=1\r\n", safe="/:"), other.stdout)
+        self.assertIn("dropped text/plain " + quote("https://a.example/x?y=1", safe="/:"), other.stdout)
+        wide = "https://a.example/x?y=1\nhttps://a.example/x?y=1".encode("utf-16-le")
+        self.assertIn("dropped text/x-moz-url " + quote(wide, safe="/:"), other.stdout)
+
+    def test_a_command_is_its_text_and_no_file(self):
+        self.keep(links=files.link("Do", "/bin/sh", param="echo 'a b'", command=1, x=1000, y=1500))
+        self.open()
+        other, middle = self.other_program()
+        self.carry(self.at(1150, 1620), middle)
+        until(lambda: "proposed" in other.stdout, "it is dropped: " + other.stdout)
+        self.assertIn("dropped text/plain " + quote("echo 'a b'", safe="/:"), other.stdout)
+        self.assertNotIn("uri-list", other.stdout)
 
     # In
 
@@ -260,16 +272,41 @@ class Drags(DesktopTest):
         self.desktop.key("F8")
         self.assertEqual(list(self.links("Quillmere.ini")), ["hosts"])
 
-    def test_a_text_is_taken_only_when_it_is_an_address(self):
+    def test_a_text_becomes_a_note_and_one_that_is_an_address_a_shortcut(self):
         self.keep()
         self.open()
         other, middle = self.other_program()
         self.offer(other, text="only words")
         self.carry(middle, self.at(1500, 1500))
-        until(lambda: "ended none" in other.stdout, "it is refused: " + other.stdout)
+        until(lambda: "only words" in self.saved("Containers/0.REC"), "there is a note: " + other.stdout)
         self.offer(other, text="https://a.example/x")
-        self.carry(middle, self.at(1500, 1500))
+        self.carry(middle, self.at(6500, 7500))
         self.await_link("Quillmere.REC", "https://a.example/x")
+
+    def test_an_address_comes_in_every_form_in_which_browsers_give_it(self):
+        forms = {
+            "https://a.example/1": {"text/uri-list": b"https://a.example/1\r\n", "text/plain": b"https://a.example/1"},
+            "https://a.example/2": {"text/x-moz-url": "https://a.example/2\nIts title".encode("utf-16-le")},
+            "https://a.example/3": {"_NETSCAPE_URL": b"https://a.example/3\nIts title"},
+        }
+        self.keep()
+        self.open()
+        other, middle = self.other_program()
+        for place, (address, offered) in enumerate(forms.items()):
+            other.say("clear")
+            for name, data in {**offered, "text/html": b"<a href='https://b.example/'>x</a>"}.items():
+                other.say("data %s %s" % (name, quote(data)))
+            self.carry(middle, self.at(1500, 1500 + 1500 * place))
+            self.await_link("Quillmere.REC", address)
+        self.assertEqual(set(self.links("Quillmere.REC")), set(forms))
+
+    def test_markup_alone_is_refused(self):
+        self.keep()
+        self.open()
+        other, middle = self.other_program()
+        other.say("data text/html " + quote("<a href='https://a.example/'>x</a>"))
+        self.carry(middle, self.at(1500, 1500))
+        until(lambda: "ended none" in other.stdout, "it is refused: " + other.stdout)
 
     def test_nobody_else_can_claim_to_carry_our_objects(self):
         self.keep([files.container("Box", x=5000, y=2000, w=4000, h=4000)], links=files.link("Thing", "/bin/true", x=1000, y=1500))

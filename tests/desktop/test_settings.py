@@ -123,6 +123,41 @@ class Settings(menus.MenuCase):
         self.await_setting("[SystemInfo]", 1)
         self.await_setting("[Mini Dock Size]", 0)
 
+    def test_the_address_of_the_web_search_is_typed_or_taken_from_an_engine(self):
+        self.open_dialog()
+        self.desktop.key("alt+v", "alt+e", "ctrl+a")
+        self.desktop.type("https://search.example.org/?q=%s")
+        self.desktop.key("alt+p")
+        self.await_setting("[Web Search]", "https://search.example.org/?q=%s")
+        self.desktop.key("Tab", "Down", "Down", "Return")  # from "Select..." over the first engine to the second
+        self.await_closed()
+        self.await_setting("[Web Search]", "https://www.bing.com/search?q=%s")
+
+    def test_what_is_typed_into_the_middle_of_an_address_stays_there(self):
+        self.open_dialog(extra=files.lines("[Web Search]", "https://www.bing.com/search?q=%s"))
+        self.desktop.key("alt+v", "alt+e", "Home", *["Right"] * 8)
+        self.desktop.type("my.")
+        self.desktop.key("Return")
+        self.await_closed()
+        self.await_setting("[Web Search]", "https://my.www.bing.com/search?q=%s")
+
+    def test_the_options_of_the_keyboard_launcher(self):
+        self.open_dialog()
+        self.desktop.key("alt+v", "alt+k", "alt+t", "alt+w", "alt+s", "alt+l", "alt+l", "Tab", "ctrl+a")
+        self.desktop.type("7")
+        self.desktop.key("Return")
+        self.await_closed()
+        for key, value in (("[ShowKBLauncher]", 1), ("[KBLauncherTips]", 0), ("[SearchOnSpace]", 1),
+                           ("[CalcOrSpeedLaunch]", 0), ("[KeyboardHistory]", 1), ("[KeyboardHistoryCount]", 7)):
+            self.await_setting(key, value)
+
+    def test_the_options_of_what_comes_in_and_is_opened(self):
+        self.open_dialog()
+        self.desktop.key("alt+h", "alt+o", "alt+e", "alt+l", "alt+c", "Return")
+        self.await_closed()
+        for key in ("[ConfirmOpenWith]", "[ExtractURLs]", "[DeleteDesktopShortcuts]", "[ContainerFromFolder]"):
+            self.await_setting(key, 0)
+
     def test_another_color_of_the_bar(self):
         self.open_dialog()
         self.desktop.key("alt+d", "alt+o")

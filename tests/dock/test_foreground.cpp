@@ -128,16 +128,16 @@ TEST_F(Foreground, SuspendedOrMaximisedOrBehindAQuestionItStaysWhenSomethingIsSt
     EXPECT_EQ(State(), "out");
 }
 
-TEST_F(Foreground, AStartThatFailsBringsTheWorkspaceBackBehindItsMessage) {
+TEST_F(Foreground, AStartThatFailsBringsTheWorkspaceBackBehindItsProperties) {
     StartAt(Left);
     AddFile(Main(), "/usr/bin/thing", OnWorkspace(), {3000, 3000});
     const int link = Main().NextShortcutIndex - 1;
     desk.Computer.Shell.FailNext({Reason::NotFound, "It is not there"});
-    desk.Person().Answer(AnswerOk);
     std::string state;
-    desk.Person().OnBox = [&](const fake::Box&) {
+    desk.Computer.Dialogs.OnEditLink = [&](frmEditLink&) {
         clock.Advance(500);
         state = State();
+        return false;
     };
     desk.OtherProgram();
     desk.MouseAway();

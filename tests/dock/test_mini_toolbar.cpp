@@ -520,9 +520,9 @@ struct SlowChooser : fake::FakeDialogs {
 };
 
 Platform WithDialogs(const Platform& p, Dialogs& dialogs) {
-    return {p.Files,  p.Places,    p.Clock, p.Instance, p.Session, p.Windows,
-            p.Shell,  p.Questions, dialogs, p.Drags,    p.Texts,   p.Catalogue,
-            p.Images, p.Worker,    p.Zip,   p.Tray,     p.Hotkeys, p.Counters};
+    return {p.Files,     p.Places, p.Clock,   p.Instance, p.Session,   p.Windows, p.Shell,
+            p.Questions, dialogs,  p.Drags,   p.Texts,    p.Catalogue, p.Images,  p.Worker,
+            p.Zip,       p.Tray,   p.Hotkeys, p.Counters, p.Clipboard, p.Web};
 }
 
 TEST(MiniToolbarAlone, WhileTheColourIsChosenItStays) {

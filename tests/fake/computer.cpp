@@ -21,8 +21,8 @@ Computer::Computer() {
 }
 
 Platform Computer::MakePlatform() {
-    return {Files, Places, Clock,     Instance, Session, Windows, Shell, Questions, Dialogs,
-            Drags, Texts,  Catalogue, Images,   Worker,  Zip,     Tray,  Hotkeys,   Counters};
+    return {Files, Places,    Clock,  Instance, Session, Windows, Shell,   Questions, Dialogs,   Drags,
+            Texts, Catalogue, Images, Worker,   Zip,     Tray,    Hotkeys, Counters,  Clipboard, Web};
 }
 
 void Computer::EndProcess() {
@@ -34,6 +34,7 @@ void Computer::EndProcess() {
     Tray.ShellTrayRemove();
     Hotkeys.UnregisterHotKey();
     Counters.CloseQuery();
+    Web.EndProcess();
 }
 
 } // namespace quill::fake

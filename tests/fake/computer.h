@@ -5,6 +5,7 @@
 //     frmMain Main(computer.MakePlatform());
 #pragma once
 
+#include "fake/clipboard.h"
 #include "fake/clock.h"
 #include "fake/counters.h"
 #include "fake/dialogs.h"
@@ -19,6 +20,7 @@
 #include "fake/shell.h"
 #include "fake/texts.h"
 #include "fake/tray.h"
+#include "fake/web.h"
 #include "fake/windows.h"
 #include "fake/work.h"
 #include "fake/zip.h"
@@ -54,6 +56,8 @@ struct Computer {
     FakeTray Tray;
     FakeHotkeys Hotkeys;
     FakeCounters Counters;
+    FakeClipboard Clipboard;
+    FakeWeb Web;
 };
 
 } // namespace quill::fake

@@ -1,5 +1,7 @@
 #include "fake/desk.h"
 
+#include "keyboard/jump_to.h"
+
 #include "core/start.h"
 #include "fake/words.h"
 
@@ -301,8 +303,64 @@ void Desk::PressKey(int code, bool ctrl, bool shift, bool alt) {
     key.Ctrl = ctrl;
     key.Shift = shift;
     key.Alt = alt;
-    Form_KeyDown(*Main, key);
+    if (Main->Keys.PicJumpToLink.Visible)
+        KeyInField(key);
+    else
+        Form_KeyDown(*Main, key);
     Turn();
+}
+
+// The field asks the logic first, then does what fields do, and what it can't use goes to the workspace.
+void Desk::KeyInField(const KeyEvent& key) {
+    const auto& field = Main->Keys.PicJumpToLink.cboSearch;
+    if (cboSearch_KeyDown(*Main, key, field.SelStart, field.SelLength)) return;
+    if (!key.Text.empty() && !key.Ctrl && !key.Alt) return EditField(key.Text, 0);
+    if (key.Code == 8 || key.Code == KeyHome || key.Code == KeyEnd) return EditField({}, key.Code);
+    KeyEvent inField = key;
+    inField.InTextField = true;
+    Form_KeyDown(*Main, inField);
+}
+
+void Desk::EditField(const std::string& letter, int code) {
+    auto& field = Main->Keys.PicJumpToLink.cboSearch;
+    if (code == KeyHome || code == KeyEnd) {
+        field.SelStart = code == KeyHome ? 0 : CodePoints(field.Text);
+        field.SelLength = 0;
+        return;
+    }
+    std::string text = field.Text;
+    int from = field.SelStart, length = field.SelLength;
+    if (code == 8 && length == 0 && from > 0) --from, length = 1;
+    const auto begin = ByteOfCodePoint(text, from), end = ByteOfCodePoint(text, from + length);
+    text.replace(begin, end - begin, letter);
+    cboSearch_Change(*Main, text, from + CodePoints(letter));
+}
+
+void Desk::TypeLetter(const std::string& letter) {
+    KeyEvent key;
+    key.Text = letter;
+    const bool ascii = letter.size() == 1;
+    if (ascii && std::isalnum(static_cast<unsigned char>(letter[0])))
+        key.Code = std::toupper(static_cast<unsigned char>(letter[0]));
+    if (letter == " ") key.Code = KeySpace;
+    if (letter == "=") key.Code = 187;
+    if (letter == "/") key.Code = 191;
+    key.Shift = letter == "!" || (ascii && std::isupper(static_cast<unsigned char>(letter[0])));
+    if (letter == "!") key.Code = '1';
+    if (Main->Keys.PicJumpToLink.Visible)
+        KeyInField(key);
+    else
+        Form_KeyDown(*Main, key);
+    Turn();
+}
+
+void Desk::Type(const std::string& text) {
+    for (std::size_t at = 0; at < text.size();) {
+        std::size_t end = at + 1;
+        while (end < text.size() && (text[end] & 0xC0) == 0x80) ++end;
+        TypeLetter(text.substr(at, end - at));
+        at = end;
+    }
 }
 
 void Desk::MoveWindow(const Rect& place) {

@@ -59,6 +59,10 @@ struct Desk {
     void TypeInNote(int index, const std::string& text); // clicks into it, types at the end, stays in it
     void LeaveNote(int index);
     void PressKey(int code, bool ctrl = false, bool shift = false, bool alt = false);
+    // What a person types, letter by letter: into the launcher's field while that is open, else to the
+    // workspace. The field is played as the toolkit's: what its keys leave unused edits its text.
+    void Type(const std::string& text);
+    std::string Typed() const { return Main->Keys.PicJumpToLink.cboSearch.Text; }
     void MoveWindow(const Rect& place); // by the person, as the window manager reports it
     void Wait(std::int64_t milliseconds);
     // ---- pointer, keyboard and screens, as a sliding workspace meets them. The first of these verbs makes
@@ -88,6 +92,9 @@ struct Desk {
     int ShortcutNamed(const std::string& caption) const;
 
 private:
+    void TypeLetter(const std::string& letter);
+    void EditField(const std::string& letter, int code);
+    void KeyInField(const KeyEvent& key);
     std::optional<WindowId> WindowAt(Point screen) const;
     void TellCrossings();
     void TellForeground();

@@ -14,6 +14,13 @@ class FakeDialogs : public Dialogs {
 public:
     bool Show(frmConProperties& dialog) override { return Play(OnConProperties, dialog); }
     bool Show(frmSettings& dialog) override { return Play(OnSettings, dialog); }
+    bool Show(frmEditLink& dialog) override { return Play(OnEditLink, dialog); }
+    bool Show(frmInternetShortcut& dialog) override { return Play(OnInternetShortcut, dialog); }
+    bool Show(TextQuestion& question) override { return Play(OnText, question); }
+    std::optional<std::string> OpenFolder(const FileQuestion& question) override {
+        FileQuestions.push_back(question);
+        return Next(Folders);
+    }
     std::optional<std::string> OpenFile(const FileQuestion& question) override {
         FileQuestions.push_back(question);
         return Next(Files);
@@ -26,7 +33,11 @@ public:
     // True: accepted.
     std::function<bool(frmConProperties&)> OnConProperties;
     std::function<bool(frmSettings&)> OnSettings;
+    std::function<bool(frmEditLink&)> OnEditLink;
+    std::function<bool(frmInternetShortcut&)> OnInternetShortcut;
+    std::function<bool(TextQuestion&)> OnText;
     std::deque<std::optional<std::string>> Files; // answers in order; nothing: cancelled
+    std::deque<std::optional<std::string>> Folders;
     std::deque<std::optional<Color>> Colors;
     std::vector<FileQuestion> FileQuestions;
     std::vector<Color> ColorsAsked;

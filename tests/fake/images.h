@@ -3,6 +3,7 @@
 
 #include "platform/drawing.h"
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -13,7 +14,8 @@ class FakeImages : public Images {
 public:
     Size PictureSize(const std::string& path) const override {
         const auto found = Sizes.find(path);
-        return found == Sizes.end() ? Size{} : found->second;
+        if (found != Sizes.end()) return found->second;
+        return OnSize ? OnSize(path) : Size{};
     }
     PixelGrid PixelsOf(const IconSource& source, int) const override {
         const auto found = Pixels.find(source.File);
@@ -22,6 +24,7 @@ public:
     void Forget(const std::string& path) override { Forgotten.push_back(path); }
 
     std::map<std::string, Size> Sizes;
+    std::function<Size(const std::string&)> OnSize; // for files whose names nobody knows before
     std::map<std::string, PixelGrid> Pixels; // by file
     std::vector<std::string> Forgotten;
 };

@@ -18,10 +18,12 @@ public:
     std::string MountPoint(const std::string& path) const override { return MountOf(path).first; }
     DriveKind KindOfDrive(const std::string& path) const override { return MountOf(path).second; }
     std::string SystemRelease() const override { return Release; }
+    std::vector<std::string> Languages() const override { return Spoken; }
 
     std::string Program = "/opt/quillmere/bin";
     std::string Data = "/opt/quillmere/share";
     std::string Release = "6.1.0";
+    std::vector<std::string> Spoken{"en_US", "en"};
     std::map<SpecialFolder, std::string> Folders{
         {SpecialFolder::Home, "/home/user"},
         {SpecialFolder::Pictures, "/home/user/Pictures"},

@@ -17,6 +17,7 @@ std::string Words(const LaunchRequest& request) {
     std::string text = request.Command ? "command" : request.Verb.empty() ? "start" : request.Verb;
     if (!request.File.empty()) text += " " + request.File;
     if (!request.Parameters.empty()) text += " " + request.Parameters;
+    for (const auto& argument : request.Arguments) text += " [" + argument + "]";
     if (!request.Directory.empty()) text += " in " + request.Directory;
     if (request.Show != 1) text += " show " + std::to_string(request.Show);
     return text;
@@ -32,6 +33,14 @@ Status FakeShell::ShellExecute(const LaunchRequest& request) {
 Status FakeShell::StartProgram(const std::string& path, const std::vector<std::string>& arguments) {
     Programs.push_back({path, arguments});
     return NextFailure();
+}
+
+Status FakeShell::MoveToTrash(const std::string& path) {
+    if (!failures_.empty()) return NextFailure();
+    if (!files_.Has(path)) return Failure{Reason::NotFound, "No such file or directory"};
+    files_.Delete(path);
+    Trashed.push_back(path);
+    return {};
 }
 
 Status FakeShell::NextFailure() {

@@ -17,11 +17,16 @@ struct StartedProgram {
 
 class FakeShell : public Shell {
 public:
-    FakeShell(const FakeFiles& files, FakeClock& clock) : files_(files), clock_(clock) {}
+    FakeShell(FakeFiles& files, FakeClock& clock) : files_(files), clock_(clock) {}
 
     Status ShellExecute(const LaunchRequest& request) override;
     Status StartProgram(const std::string& path, const std::vector<std::string>& arguments) override;
     void ShowInFolder(const std::string& path) override { Shown.push_back(path); }
+    Status ShowFileProperties(const std::string& path) override {
+        PropertiesShown.push_back(path);
+        return NextFailure();
+    }
+    Status MoveToTrash(const std::string& path) override;
     bool PathIsNetworkPath(const std::string& path) const override;
     void PathFileExists(const std::string& path, int timeout, std::function<void(bool)> handler) override;
 
@@ -41,8 +46,10 @@ public:
     std::vector<LaunchRequest> Launches; // failed ones too
     std::vector<StartedProgram> Programs;
     std::vector<std::string> Shown;
-    std::vector<std::string> Asked; // paths of PathFileExists
-    std::string LastLaunch() const; // "open /usr/bin/editor --new", or "(none)"
+    std::vector<std::string> PropertiesShown;
+    std::vector<std::string> Trashed; // with success
+    std::vector<std::string> Asked;   // paths of PathFileExists
+    std::string LastLaunch() const;   // "open /usr/bin/editor --new", or "(none)"
 
 private:
     struct Question {
@@ -53,7 +60,7 @@ private:
     Status NextFailure();
     void Finish(int id, bool exists);
 
-    const FakeFiles& files_;
+    FakeFiles& files_;
     FakeClock& clock_;
     std::deque<Failure> failures_;
     std::map<std::string, Failure> failuresFor_;

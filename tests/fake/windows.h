@@ -42,6 +42,7 @@ public:
     Point GetCursorPos() const override { return Cursor; }
     void SetCursorPos(Point place) override;
     void ShowCursor(bool shown) override;
+    void ShowBusy(bool busy) override { Busy = busy, WasBusy = WasBusy || busy; }
 
     const FakeWindow& Of(WindowId window) const; // one that was never touched is a default one
     void MovedByPerson(const Rect& place);       // frmMain, as the window manager does it
@@ -51,6 +52,7 @@ public:
     std::vector<Monitor> Screens{{{0, 0, 28800, 16200}, {0, 0, 28800, 15750}}}; // 1920 by 1080, a panel below
     Point Cursor{14400, 8100};
     bool CursorShown = true;
+    bool Busy = false, WasBusy = false;
     std::optional<WindowId> Foreground; // none: another program has it
     std::vector<WindowId> Stack;        // shown windows of ours, the last is the top
     // A panel of another program that keeps an edge free (1 top, 2 left, 3 right, 4 bottom; 0: there is

@@ -25,7 +25,10 @@ protected:
         start.Environment = {{"OUT", folder.At("out")}, {"GREETING", "good day"}, {"GONE", ""}};
         const auto started = StartDetached(start);
         if (!started) return "failed: " + started.Error().Text;
-        std::ifstream stream(folder.At("out")); // opens when the script opens it
+        return ReadOut(); // opens when the script opens it
+    }
+    std::string ReadOut() const {
+        std::ifstream stream(folder.At("out"));
         std::stringstream text;
         text << stream.rdbuf();
         return text.str();
@@ -55,6 +58,14 @@ TEST_F(ProcessTest, TheEnvironmentIsOursWithTheChanges) {
     const VariableGuard greeting("GREETING", "old");
     const VariableGuard gone("GONE", "still here");
     EXPECT_EQ(Run("echo $QUILL_KEPT, $GREETING, ${GONE-unset}"), "kept, good day, unset\n");
+}
+
+TEST_F(ProcessTest, ItsNumberIsTold) {
+    ProcessStart start{"/bin/sh", {"-c", "echo $$ > \"$OUT\""}, ""};
+    start.Environment = {{"OUT", folder.At("out")}};
+    const auto started = StartDetached(start);
+    ASSERT_TRUE(started);
+    EXPECT_EQ(ReadOut(), std::to_string(started.Value()) + "\n");
 }
 
 TEST_F(ProcessTest, ItLivesInASessionOfItsOwnAndIsNoChildOfOurs) {

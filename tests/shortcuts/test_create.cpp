@@ -1,4 +1,5 @@
 #include "shortcuts/at_work.h"
+#include "shortcuts/link_files.h"
 
 #include "core/objects.h"
 
@@ -107,6 +108,84 @@ TEST_F(Create, AFileOfAFolderConnectorKeepsItsWholeName) {
     EXPECT_EQ(Main.Link(File("/home/user/Games/run.exe", InContainer(box))).FullCaption, "run.exe");
     Main.Con(box).CopyPath.clear();
     EXPECT_EQ(Main.Link(File("/home/user/Games/run.exe", InContainer(box))).FullCaption, "run");
+}
+
+TEST_F(Create, ALinkOfAFolderConnectorIsTheFileItself) {
+    const int box = Container("Folder");
+    Computer.Files.Put("/home/user/Games/site.url", "[InternetShortcut]\nURL=https://a.example/");
+    Main.Con(box).CopyPath = "/home/user/Games";
+    const int kept = File("/home/user/Games/site.url", InContainer(box));
+    EXPECT_EQ(Main.Link(kept).Path, "/home/user/Games/site.url");
+    EXPECT_EQ(Main.Link(kept).FullCaption, "site.url");
+    EXPECT_EQ(Main.Link(File("/home/user/Games/site.url")).Path, "https://a.example/");
+}
+
+TEST_F(Create, AUrlFileGoesOnAsAnAddressUnderItsName) {
+    Computer.Files.Put("/home/user/My Site.Url", "[InternetShortcut]\nURL=https://a.example/");
+    const int index = File("/home/user/My Site.Url");
+    EXPECT_EQ(Main.Link(index).ShortcutType, TypeUrl);
+    EXPECT_EQ(Main.Link(index).Path, "https://a.example/");
+    EXPECT_EQ(Main.Link(index).FullCaption, "My Site");
+}
+
+TEST_F(Create, ALnkFileGivesItsTargetParametersAndStartFolder) {
+    test::LinkFile link;
+    link.Local = "C:\\opt\\tool.exe";
+    link.Arguments = " --new ";
+    link.WorkingDirectory = "C:\\opt";
+    Computer.Files.Put("/opt/tool.exe", "x");
+    Computer.Files.Put("/home/user/My Tool.LNK", link.Text());
+    const int index = File("/home/user/My Tool.LNK");
+    EXPECT_EQ(Main.Link(index).ShortcutType, TypeFile);
+    EXPECT_EQ(Main.Link(index).Path, "/opt/tool.exe");
+    EXPECT_EQ(Main.Link(index).FullCaption, "My Tool");
+    EXPECT_EQ(Main.Link(index).Parameters, "--new");
+    EXPECT_EQ(Main.Link(index).StartIn, "/opt");
+}
+
+TEST_F(Create, ALnkFileThatCantBeReadIsItsOwnTarget) {
+    Computer.Files.Put("/home/user/Tool.lnk", "damaged");
+    const int index = File("/home/user/Tool.lnk");
+    EXPECT_EQ(Main.Link(index).Path, "/home/user/Tool.lnk");
+    EXPECT_EQ(Main.Link(index).FullCaption, "Tool");
+    EXPECT_EQ(Main.Link(index).Parameters + Main.Link(index).StartIn, "");
+}
+
+TEST_F(Create, WithoutTheSettingLinksStayLinks) {
+    Main.Settings.ExtractURLs = false;
+    Computer.Files.Put("/home/user/site.url", "[InternetShortcut]\nURL=https://a.example/");
+    Computer.Files.Put("/home/user/app.desktop", "[Desktop Entry]\nType=Application\nName=App\n");
+    Computer.Files.Recount();
+    EXPECT_EQ(Main.Link(File("/home/user/site.url")).Path, "/home/user/site.url");
+    EXPECT_EQ(Main.Link(File("/home/user/app.desktop")).FullCaption, "app.desktop");
+    EXPECT_TRUE(Computer.Files.Reads.empty());
+}
+
+TEST_F(Create, ADesktopEntryIsCalledByItsName) {
+    Computer.Files.Put("/home/user/app.desktop", "[Desktop Entry]\nType=Application\nName=App\nComment=x\n");
+    const int index = File("/home/user/app.desktop");
+    EXPECT_EQ(Main.Link(index).Path, "/home/user/app.desktop");
+    EXPECT_EQ(Main.Link(index).FullCaption, "App");
+    EXPECT_EQ(Main.Link(index).Tip, "");
+}
+
+TEST_F(Create, ALoadFollowsNoLink) {
+    Computer.Files.Put("/home/user/site.url", "[InternetShortcut]\nURL=https://a.example/");
+    Main.IsLoading = true;
+    const int index = File("/home/user/site.url");
+    EXPECT_EQ(Main.Link(index).Path, "/home/user/site.url");
+    EXPECT_EQ(Main.Link(index).ShortcutType, TypeFile);
+}
+
+TEST_F(Create, CaptionsLoseThreeEndingsInAnyCaseAndNoOther) {
+    struct Row {
+        const char* Path;
+        const char* Caption;
+    };
+    for (const Row& row : {Row{"/x/Program.EXE", "Program"}, Row{"/x/a.Lnk", "a"}, Row{"/x/a.uRL", "a"},
+                           Row{"/x/archive.zip", "archive.zip"}, Row{"/x/a.exe.txt", "a.exe.txt"},
+                           Row{"/x/a.lnk.exe", "a.lnk"}, Row{"/", "/"}, Row{"/x/two\nlines", "two lines"}})
+        EXPECT_EQ(Main.Link(File(row.Path)).FullCaption, row.Caption) << row.Path;
 }
 
 TEST_F(Create, ADeletedShortcutLeavesSelectionRecentListAndCurrent) {

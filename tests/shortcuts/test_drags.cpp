@@ -322,7 +322,7 @@ TEST_F(Drags, AContainerThatHoldsTwoHundredAndFiftyTakesNoMore) {
     EXPECT_EQ(LastBox(),
               "Error 48: There's a limit of 250 shortcuts per container (much less is recommended!)");
     UnselectLinks(Main);
-    EXPECT_EQ(CarryCornerTo(two, OnContainer(box), {900, 1500}), DropAnswer::Refused);
+    EXPECT_EQ(CarryCornerTo(two, OnContainer(box), {900, 2500}), DropAnswer::Refused);
     EXPECT_EQ(computer.Questions.Boxes.size(), 2U);
     EXPECT_EQ(Main.Group.UndoStack.size(), 1U);
 }

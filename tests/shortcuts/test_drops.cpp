@@ -1,6 +1,9 @@
 #include "shortcuts/drag_fixture.h"
 
 #include "containers/measures.h"
+#include "dock/sliding.h"
+#include "persistence/text_values.h"
+#include "shortcuts/link_files.h"
 
 #include <algorithm>
 #include <cmath>
@@ -58,14 +61,6 @@ TEST_F(Drops, AnAddressBecomesAWebShortcut) {
     OnWorkspaceAt({1000, 2000}, Text(" http://b.example/\r\n"));
     EXPECT_EQ(Main.Link(Last()).Path, "http://b.example/");
     EXPECT_EQ(Main.Link(Last()).FullCaption, "http://b.example/");
-}
-
-TEST_F(Drops, ATextThatIsNoAddressIsRefused) {
-    for (const char* text : {"just words", "http is a word", "http://", "", "https://a.example/ and more",
-                             "https://a.example/\nhttps://b.example/", "javascript:alert(1)",
-                             "data:text/html,x", "file:///etc/passwd"})
-        EXPECT_EQ(OnWorkspaceAt({1000, 1000}, Text(text)), DropAnswer::Refused) << text;
-    EXPECT_EQ(CountOnBack(), 0);
 }
 
 TEST_F(Drops, WhatIsNoPathAndNoAddressIsLeftOut) {
@@ -276,6 +271,180 @@ TEST_F(Drops, WhenTheProgramEndsOverTheFirstMessageTheSecondIsNotShown) {
     IntoContainer(box, {900, 900}, Files(300));
     EXPECT_EQ(Boxes(), 1);
     EXPECT_EQ(GetContainerShortcutCount(Main, box), 250);
+}
+
+// ---- link files
+
+TEST_F(Drops, ALinkFileThatIsDroppedTwiceIsOneShortcut) {
+    const int box = New({4000, 1000, 4000, 4000});
+    computer.Files.Put("/home/user/site.url", "[InternetShortcut]\nURL=https://a.example/");
+    EXPECT_EQ(IntoContainer(box, {900, 900}, Files({"/home/user/site.url"})), DropAnswer::Copied);
+    EXPECT_EQ(IntoContainer(box, {900, 2000}, Files({"/home/user/site.url"})), DropAnswer::Refused);
+    EXPECT_EQ(IntoContainer(box, {900, 2000}, Address("https://a.example/")), DropAnswer::Refused);
+    EXPECT_EQ(GetContainerShortcutCount(Main, box), 1);
+    EXPECT_EQ(Main.Link(0).FullCaption, "site");
+}
+
+TEST_F(Drops, ALinkFileThatLiesThereItselfIsNotAddedAsWhatItStandsFor) {
+    computer.Files.Put("/home/user/site.url", "[InternetShortcut]\nURL=https://a.example/");
+    Main.Settings.ExtractURLs = false;
+    OnWorkspaceAt({1000, 1000}, Files({"/home/user/site.url"}));
+    Main.Settings.ExtractURLs = true;
+    EXPECT_EQ(OnWorkspaceAt({1000, 3000}, Files({"/home/user/site.url"})), DropAnswer::Refused);
+    EXPECT_EQ(CountOnBack(), 1);
+}
+
+TEST_F(Drops, LinksToOneProgramWithOtherParametersAreOtherShortcuts) {
+    computer.Files.Put("/opt/tool", "x");
+    const auto put = [&](const std::string& name, const std::string& arguments) {
+        test::LinkFile file;
+        file.Local = "C:\\opt\\tool";
+        file.Arguments = arguments;
+        computer.Files.Put("/home/user/" + name, file.Text());
+    };
+    put("a.lnk", "--one");
+    put("b.lnk", "--two");
+    put("c.lnk", "--two");
+    OnWorkspaceAt({1000, 1000}, Files({"/home/user/a.lnk", "/home/user/b.lnk", "/home/user/c.lnk"}));
+    ASSERT_EQ(CountOnBack(), 2);
+    EXPECT_EQ(Main.Link(0).Parameters, "--one");
+    EXPECT_EQ(Main.Link(1).Parameters, "--two");
+    EXPECT_EQ(Boxes(), 1);
+}
+
+TEST_F(Drops, InPortableModeTheTargetOfALinkOnTheStickIsStoredWithTheMark) {
+    computer.Places.Mounts["/media/stick"] = DriveKind::Removable;
+    computer.Places.Program = "/media/stick/quillmere";
+    Main.PortableMode = true;
+    computer.Files.Put("/media/stick/Tools/edit.exe", "x");
+    test::LinkFile file;
+    file.Relative = "Tools\\edit.exe";
+    computer.Files.Put("/media/stick/a.lnk", file.Text());
+    computer.Files.Put("/media/stick/damaged.lnk", "x");
+    OnWorkspaceAt({1000, 1000}, Files({"/media/stick/a.lnk", "/media/stick/damaged.lnk"}));
+    EXPECT_EQ(Main.Link(0).Path, "@/Tools/edit.exe");
+    EXPECT_EQ(Main.Link(1).Path, "@/damaged.lnk") << "one that can't be read is its own target";
+    EXPECT_EQ(OnWorkspaceAt({1000, 4000}, Files({"/media/stick/Tools/edit.exe"})), DropAnswer::Refused);
+}
+
+// ---- links on the desktop
+
+struct DesktopLinks : Drops {
+    const std::string Link = "/home/user/Desktop/site.URL";
+    DesktopLinks() { Put(Link); }
+    void Put(const std::string& path, const std::string& address = "https://a.example/") {
+        computer.Files.Put(path, "[InternetShortcut]\nURL=" + address);
+    }
+    std::vector<std::string> Trashed(const std::string& path) {
+        OnWorkspaceAt({1000, 1000}, Files({path}));
+        return computer.Shell.Trashed;
+    }
+    const std::vector<std::string> Nothing;
+};
+
+TEST_F(DesktopLinks, OneThatAShortcutTookThePlaceOfGoesToTheTrash) {
+    EXPECT_EQ(Trashed(Link), std::vector<std::string>{Link});
+    EXPECT_EQ(Main.Link(0).Path, "https://a.example/");
+}
+
+TEST_F(DesktopLinks, NothingGoesWhereOneOfTheTwoSettingsIsOff) {
+    Main.Settings.DeleteDesktopShortcuts = false;
+    EXPECT_EQ(Trashed(Link), Nothing);
+    DeleteShortcut(Main, 0);
+    Main.Settings.DeleteDesktopShortcuts = true;
+    Main.Settings.ExtractURLs = false;
+    EXPECT_EQ(Trashed(Link), Nothing);
+    EXPECT_EQ(Main.Link(1).Path, Link) << "the link itself";
+    EXPECT_EQ(Main.Link(1).FullCaption, "site");
+}
+
+TEST_F(DesktopLinks, OneThatWasThereAlreadyStays) {
+    OnWorkspaceAt({1000, 1000}, Address("https://a.example/"));
+    EXPECT_EQ(Trashed(Link), Nothing);
+}
+
+TEST_F(DesktopLinks, OneThatStandsForNothingElseStays) {
+    computer.Files.Put("/home/user/Desktop/damaged.lnk", "x");
+    Put("/home/user/Desktop/odd.url", "javascript:x");
+    computer.Files.Put("/home/user/Desktop/app.desktop", "[Desktop Entry]\nType=Application\nName=App\n");
+    for (const char* name : {"damaged.lnk", "odd.url", "app.desktop"})
+        EXPECT_EQ(Trashed("/home/user/Desktop/" + std::string(name)), Nothing) << name;
+    EXPECT_EQ(Main.Link(2).FullCaption, "App");
+    EXPECT_EQ(Main.Link(2).Path, "/home/user/Desktop/app.desktop");
+}
+
+TEST_F(DesktopLinks, OneThatLiesElsewhereStays) {
+    for (const char* path : {"/home/user/site.url", "/home/user/Desktop/folder/site.url",
+                             "/backup/home/user/Desktop/site.url", "/home/user/Desktop2/site.url"}) {
+        Put(path, "https://a.example/" + std::string(path));
+        EXPECT_EQ(Trashed(path), Nothing) << path;
+    }
+    Put("/home/user/other.url");
+    computer.Places.Folders[SpecialFolder::Desktop] = "/home/user";
+    EXPECT_EQ(Trashed("/home/user/other.url"), Nothing) << "a home folder is no desktop";
+}
+
+TEST_F(DesktopLinks, NothingGoesWhileTheWorkspaceCantBeSaved) {
+    computer.Files.PutFolder(fake::SettingsFolder);
+    computer.Files.Space(0);
+    EXPECT_EQ(Trashed(Link), Nothing);
+    EXPECT_EQ(CountOnBack(), 1);
+}
+
+TEST_F(DesktopLinks, OnlyThoseThatFoundRoomGo) {
+    const int box = New({4000, 1000, 4000, 4000});
+    DragData data = Files(249);
+    Put("/home/user/Desktop/two.url", "https://b.example/");
+    data.Files.push_back(Link);
+    data.Files.push_back("/home/user/Desktop/two.url");
+    IntoContainer(box, {900, 900}, data);
+    EXPECT_EQ(computer.Shell.Trashed, std::vector<std::string>{Link});
+}
+
+// ---- while a drop is being taken
+
+TEST_F(Drops, TheWorkspaceDoesNotCollapseUnderTheHandThatDrops) {
+    Main.View.Window.Left = 0;
+    bool held = false;
+    IntoContainer(New({4000, 1000, 4000, 4000}), {900, 900}, Files({"/a"}));
+    computer.Questions.OnBox = [&](const fake::Box&) { held = Main.Links.Dropping && !MayCollapse(Main); };
+    OnWorkspaceAt({1000, 1000}, Files({"/a"}));
+    OnWorkspaceAt({1000, 1000}, Files({"/a"}));
+    EXPECT_TRUE(held);
+    EXPECT_FALSE(Main.Links.Dropping) << "and may afterwards";
+}
+
+TEST_F(Drops, ManyFilesReadEachLinkOnceAndNothingElse) {
+    for (int at = 0; at < 250; ++at)
+        computer.Files.Put("/l/" + std::to_string(at) + ".url",
+                           "[InternetShortcut]\nURL=https://a.example/" + std::to_string(at));
+    DragData data;
+    for (int at = 0; at < 250; ++at) data.Files.push_back("/l/" + std::to_string(at) + ".url");
+    const int box = New({4000, 1000, 4000, 4000});
+    computer.Files.Recount();
+    IntoContainer(box, {900, 900}, data);
+    EXPECT_EQ(GetContainerShortcutCount(Main, box), 250);
+    EXPECT_EQ(
+        std::ranges::count_if(computer.Files.Reads, [](auto& read) { return read.starts_with("read /l/"); }),
+        250);
+    IntoContainer(box, {900, 900}, Files({"/l/1.url"}));
+}
+
+TEST_F(Drops, HostileNamesAreStoredAsTheyAreAndShownAsText) {
+    const std::string names[] = {
+        "/x/\"quoted' `name`",  "/x/two\nlines",   "/x/100%25",   "/x/--leading",
+        "/x/\u202Egnp.exe.txt", "/x/\xFF\xFE bad", "/x/ blanks ", "/x/" + std::string(4096, 'n'),
+        "/x/<b>bold<b>&amp;",   "/x/$(reboot);"};
+    OnWorkspaceAt({1000, 1000}, Files({std::begin(names), std::end(names)}));
+    int index = 0;
+    for (const std::string& name : names) {
+        EXPECT_EQ(Main.Link(index).Path, name);
+        const std::string& caption = Main.Link(index++).FullCaption;
+        EXPECT_EQ(caption.find('\n'), std::string::npos);
+        EXPECT_TRUE(IsUtf8(caption)) << caption;
+    }
+    EXPECT_EQ(Main.Link(0).FullCaption, "\"quoted' `name`");
+    EXPECT_EQ(Main.Link(8).FullCaption, "<b>bold<b>&amp;");
 }
 
 TEST_F(Drops, ADeletedShortcutIsNoDuplicate) {

@@ -1,4 +1,6 @@
+#include "dock/docking.h"
 #include "shortcuts/at_work.h"
+#include "shortcuts/properties.h"
 
 namespace quill {
 namespace {
@@ -121,45 +123,94 @@ TEST_F(Launching, ADeadOrUnknownShortcutStartsNothing) {
     EXPECT_EQ(Main.Links.CurrentShortcut, -1);
 }
 
-TEST_F(Launching, ATagStartShortcutStartsItselfWhileTagsAreNotBuilt) {
+// -------------------------------------------------------------------------------------------- the pointer
+
+TEST_F(Launching, ThePointerIsThatOfWhoWaitsWhileSomethingStartsAndNotAfterwards) {
     const int index = File("/usr/bin/editor");
-    Main.Link(index).TagStart = true;
-    Main.Link(index).Tags = "work";
+    bool during = false;
+    Computer.Shell.OnLaunch = [&](const LaunchRequest&) { during = Computer.Windows.Busy; };
     Start(index);
-    EXPECT_EQ(Started(), "start /usr/bin/editor\n");
+    EXPECT_TRUE(during);
+    EXPECT_FALSE(Computer.Windows.Busy);
+}
+
+TEST_F(Launching, ThePointerStaysAsItIsWhenNothingStarts) {
+    const int index = File("/usr/bin/editor");
+    Main.Link(index).Confirm = true;
+    Person().Answer(AnswerNo);
+    Start(index);
+    EXPECT_FALSE(Computer.Windows.WasBusy);
+}
+
+TEST_F(Launching, AReleaseAfterADragGivesThePointerBack) {
+    Computer.Windows.Busy = true;
+    Main.Links.DragIndex = -1;
+    Start(File("/usr/bin/editor"));
+    EXPECT_FALSE(Computer.Windows.Busy);
 }
 
 // ------------------------------------------------------------------------------------------------ failures
 
-TEST_F(Launching, AFailedStartTellsTheSystemsTextAndIsStillRecent) {
-    const int index = File("/usr/bin/editor");
+struct FailedStart : AtWork {
+    FailedStart() {
+        Computer.Dialogs.OnEditLink = [this](frmEditLink& dialog) {
+            Told.push_back(dialog.Caption());
+            BusyThen = Computer.Windows.Busy;
+            if (Scene) Scene(dialog);
+            return false;
+        };
+        Index = File("/usr/bin/editor");
+    }
+    std::vector<std::string> Told; // captions of the properties
+    bool BusyThen = false;
+    std::function<void(frmEditLink&)> Scene;
+    int Index = -1;
+};
+
+TEST_F(FailedStart, TellsTheSystemsTextInThePropertiesAndIsStillRecent) {
     Computer.Shell.FailNext({Reason::Denied, "Permission denied"});
-    Person().Answer(AnswerOk);
-    Start(index);
-    EXPECT_EQ(Person().LastBox(), "Error: Permission denied");
-    EXPECT_EQ(Person().Boxes.back().Title, "Quillmere");
+    Scene = [&](frmEditLink& dialog) { EXPECT_EQ(dialog.txtPath, "/usr/bin/editor") << "to be mended"; };
+    Start(Index);
+    EXPECT_EQ(Told, std::vector<std::string>{"Error: Permission denied"});
+    EXPECT_FALSE(BusyThen) << "the pointer is given back first";
     EXPECT_EQ(Recent(), "editor");
-}
-
-TEST_F(Launching, ARefusedElevationIsSilentAndStillRecent) {
-    const int index = File("/usr/bin/editor");
-    Main.Link(index).Admin = true;
-    Computer.Shell.FailNext({Reason::Refused, "Request dismissed"});
-    Start(index);
     EXPECT_TRUE(Person().Boxes.empty());
+}
+
+TEST_F(FailedStart, OfARefusedElevationIsSilentAndStillRecent) {
+    Main.Link(Index).Admin = true;
+    Computer.Shell.FailNext({Reason::Refused, "Request dismissed"});
+    Start(Index);
+    EXPECT_TRUE(Told.empty());
     EXPECT_EQ(Recent(), "editor");
 }
 
-TEST_F(Launching, ASecondFailureWhileOneIsToldOpensNothing) {
-    const int index = File("/usr/bin/editor"), other = File("/usr/bin/other");
+TEST_F(FailedStart, ASecondOneWhileThePropertiesAreOpenOpensNothing) {
+    const int other = File("/usr/bin/other");
     Computer.Shell.FailNext({Reason::NotFound, "No such file or directory"});
     Computer.Shell.FailNext({Reason::NotFound, "No such file or directory"});
-    Person().Answer(AnswerOk);
-    Person().OnBox = [&](const fake::Box&) { Start(other); };
-    Start(index);
-    EXPECT_EQ(Person().Boxes.size(), 1U);
+    Scene = [&](frmEditLink&) { Start(other); };
+    Start(Index);
+    EXPECT_EQ(Told.size(), 1U);
     EXPECT_EQ(Recent(), "editor, other");
-    EXPECT_FALSE(Main.Links.ErrorShowing);
+}
+
+TEST_F(FailedStart, TheNextOneIsToldAgain) {
+    for (int time = 0; time < 2; ++time) {
+        Computer.Shell.FailNext({Reason::NotFound, "No such file or directory"});
+        Start(Index);
+    }
+    EXPECT_EQ(Told.size(), 2U);
+}
+
+TEST_F(FailedStart, EachOfASelectionIsTold) {
+    const int other = File("/usr/bin/other");
+    for (const int link : {Index, other}) {
+        Computer.Shell.FailNext({Reason::NotFound, "No such file or directory"});
+        Start(link);
+    }
+    EXPECT_EQ(Told.size(), 2U);
+    EXPECT_EQ(Recent(), "other, editor");
 }
 
 TEST_F(Launching, DockingIsHeldBackWhileSomethingIsAsked) {
@@ -248,6 +299,48 @@ TEST_F(Launching, StartAllStartsWhatLiesInTheContainerAndNothingElse) {
               "Start all shortcuts in Work?\n\n* Disable this confirmation from the Settings dialog.");
     EXPECT_EQ(Person().Boxes.back().Flags, 36);
     EXPECT_EQ(Started(), "start /a\nstart /d\n");
+}
+
+TEST_F(Launching, StartAllMakesRoomBeforeItAsks) {
+    const int box = Container("Work");
+    File("/a", InContainer(box));
+    Main.Settings.OnTop = true;
+    Computer.Windows.SetWindowOnTop(MainWindow, true);
+    bool onTop = true;
+    Person().OnBox = [&](const fake::Box&) { onTop = Computer.Windows.Of(MainWindow).OnTop; };
+    Person().Answer(AnswerNo);
+    StartAllInContainer(Main, box);
+    EXPECT_FALSE(onTop);
+}
+
+TEST_F(Launching, StartAllStartsEachItselfAndNotItsTags) {
+    const int box = Container("Work");
+    const int index = File("/a", InContainer(box));
+    Main.Link(index).TagStart = true;
+    Main.Link(index).Tags = "work";
+    Main.Link(File("/b")).Tags = "work";
+    Main.Settings.ConfirmStartAllShortcuts = false;
+    StartAllInContainer(Main, box);
+    EXPECT_EQ(Started(), "start /a\n");
+}
+
+TEST_F(Launching, StartAllIsNoReleaseOfADrag) {
+    const int box = Container("Work");
+    const int index = File("/a", InContainer(box));
+    Main.Settings.ConfirmStartAllShortcuts = false;
+    Main.Links.DragIndex = -1;
+    StartAllInContainer(Main, box);
+    EXPECT_EQ(Started(), "start /a\n");
+    EXPECT_EQ(Main.Links.DragIndex, index);
+}
+
+TEST_F(Launching, StartAllLeavesTheKeyboardWhereItIs) {
+    const int box = Container("Work");
+    File("/a", InContainer(box));
+    Main.Settings.ConfirmStartAllShortcuts = false;
+    Computer.Windows.Foreground.reset();
+    StartAllInContainer(Main, box);
+    EXPECT_FALSE(Computer.Windows.Foreground) << "what was started is to have it";
 }
 
 TEST_F(Launching, StartAllAsksOnlyWhereThatIsSetAndNoStartsNothing) {

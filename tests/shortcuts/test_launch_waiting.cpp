@@ -1,6 +1,7 @@
 // What waits while a shortcut starts: a server that does not answer, and questions. The world changes
 // meanwhile.
 #include "shortcuts/at_work.h"
+#include "shortcuts/properties.h"
 
 namespace quill {
 namespace {
@@ -26,9 +27,12 @@ TEST_F(DeadServer, IsAskedOffTheThreadAndNothingStartsBefore) {
 
 TEST_F(DeadServer, ThatNeverAnswersIsToldAsAMissingFileAndStartsNothing) {
     Start(Index);
-    Person().Answer(AnswerOk);
+    std::string told;
+    Computer.Dialogs.OnEditLink = [&](frmEditLink& dialog) { return told = dialog.Caption(), false; };
+    EXPECT_TRUE(Computer.Windows.Busy) << "while it is waited for";
     Computer.Clock.Advance(60'000);
-    EXPECT_EQ(Person().LastBox(), "Error: No such file or directory");
+    EXPECT_FALSE(Computer.Windows.Busy);
+    EXPECT_EQ(told, "Error: No such file or directory");
     EXPECT_EQ(Started(), "") << "the shell would freeze on it";
     EXPECT_EQ(Recent(), "report.odt") << "a failed start is recent like a good one";
 }
@@ -51,7 +55,8 @@ TEST_F(DeadServer, ShortcutThatDiesMeanwhileIsNotComplainedAbout) {
     Start(Index);
     DeleteShortcut(Main, Index);
     Computer.Clock.Advance(60'000);
-    EXPECT_TRUE(Person().Boxes.empty());
+    EXPECT_EQ(Computer.Dialogs.Unexpected, 0);
+    EXPECT_FALSE(Computer.Windows.Busy);
 }
 
 TEST_F(DeadServer, NothingStartsWhenTheProgramExitsMeanwhile) {
@@ -59,7 +64,7 @@ TEST_F(DeadServer, NothingStartsWhenTheProgramExitsMeanwhile) {
     Main.IsExiting = true;
     Computer.Shell.Answer(Path, true);
     EXPECT_EQ(Started(), "");
-    EXPECT_TRUE(Person().Boxes.empty());
+    EXPECT_EQ(Computer.Dialogs.Unexpected, 0);
 }
 
 TEST_F(DeadServer, TheSameShortcutStartedAgainMeanwhileKeepsEachStartsOwnParameters) {
@@ -142,8 +147,7 @@ TEST_F(OpenQuestion, APromptThatTheEndOfTheProgramCancelsStartsNothing) {
 
 TEST_F(OpenQuestion, AShortcutDeletedWhileItsErrorIsToldIsNotRecent) {
     Computer.Shell.FailNext({Reason::Other, "Broken"});
-    Person().OnBox = [&](const fake::Box&) { DeleteShortcut(Main, Index); };
-    Person().Answer(AnswerOk);
+    Computer.Dialogs.OnEditLink = [&](frmEditLink&) { return DeleteShortcut(Main, Index), false; };
     Start(Index);
     EXPECT_EQ(Recent(), "");
 }

@@ -22,7 +22,8 @@
 namespace quill {
 namespace {
 
-constexpr int numberWidth = 64, characterWidth = 36, leastListWidth = 110; // pixels
+constexpr int numberWidth = 64, characterWidth = 36, addressWidth = 260, leastListWidth = 110; // pixels
+constexpr int longestNumber = 10; // in characters; a longer text is an address
 
 // A button whose letter acts at once. The toolkit shows it pressed for a moment first, and a key that comes
 // meanwhile, as Return, would find the box unchanged.
@@ -45,6 +46,12 @@ void StopAtChosen(const QButtonGroup& group) {
     if (group.checkedButton() == nullptr) return;
     for (auto* option : group.buttons())
         option->setFocusPolicy(option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+// A number, a character or an address.
+int WidthOf(const SettingsControl& control) {
+    if (control.TextLimit == 1) return characterWidth;
+    return control.TextLimit > longestNumber ? addressWidth : numberWidth;
 }
 
 QHBoxLayout* BareRow(QWidget* row) {
@@ -74,7 +81,7 @@ void SettingsPageForm::GiveLetters(const QString& letters) {
         if (control.Page != page_ || control.Kind == SettingsControlKind::Warning) continue;
         const bool options = control.Kind == SettingsControlKind::Options;
         if (!options && control.Caption[0] != '\0') told += Text(Tr(main_, control.Caption));
-        for (const auto& entry : control.Entries)
+        for (const auto& entry : EntriesOf(control))
             if (options) told += Text(Tr(main_, entry.Caption));
     }
     const auto given = GiveToldLetters(told, letters);
@@ -86,9 +93,13 @@ QString SettingsPageForm::Caption(const char* told) const {
     return captions_.value(text, text);
 }
 
-void SettingsPageForm::Changed() {
+void SettingsPageForm::Changed(const SettingsControl& control) {
     if (filling_) return;
     dialog_.Option_Click();
+    if (control.Follow != nullptr) {
+        control.Follow(dialog_.Controls);
+        Fill();
+    }
     ShowState();
     changed_();
 }
@@ -145,20 +156,9 @@ void SettingsPageForm::Name(const SettingsControl& control, QWidget* widget) {
 
 // A check box stands alone, or what belongs to it beside it; everything else has a label.
 void SettingsPageForm::Place(const SettingsControl& control, QWidget* widget) {
-    if (control.Beside) {
-        auto* item = grid_->itemAtPosition(row_, 1);
-        if (item == nullptr) {
-            auto* row = new QWidget;
-            BareRow(row)->addStretch();
-            grid_->addWidget(row, row_, 1);
-            item = grid_->itemAtPosition(row_, 1);
-        }
-        auto* parts = static_cast<QHBoxLayout*>(item->widget()->layout());
-        parts->insertWidget(parts->count() - 1, widget);
-        if (lead_ != nullptr) dependents_.emplace_back(lead_, widget);
-        return;
-    }
+    if (control.Beside) return PlaceBeside(widget);
     ++row_;
+    parts_ = nullptr;
     grid_->setRowMinimumHeight(row_, rowHeight_);
     lead_ = qobject_cast<QCheckBox*>(widget);
     if (lead_ != nullptr) return grid_->addWidget(widget, row_, 0);
@@ -167,6 +167,18 @@ void SettingsPageForm::Place(const SettingsControl& control, QWidget* widget) {
     if (control.Kind != SettingsControlKind::Options) label->setBuddy(widget);
     grid_->addWidget(label, row_, 0);
     grid_->addWidget(widget, row_, 1, Qt::AlignLeft);
+}
+
+void SettingsPageForm::PlaceBeside(QWidget* widget) {
+    if (parts_ == nullptr) {
+        auto* row = new QWidget;
+        parts_ = BareRow(row);
+        parts_->addStretch();
+        if (auto* alone = grid_->itemAtPosition(row_, 1)) parts_->insertWidget(0, alone->widget());
+        grid_->addWidget(row, row_, 1);
+    }
+    parts_->insertWidget(parts_->count() - 1, widget);
+    if (lead_ != nullptr) dependents_.emplace_back(lead_, widget);
 }
 
 // ---- making
@@ -193,9 +205,9 @@ QWidget* SettingsPageForm::MakeCheckBox(const SettingsControl& control) {
     auto* box = new AtOnce<QCheckBox>(Caption(control.Caption));
     const auto field = control.Check;
     fills_.emplace_back([this, box, field] { box->setChecked(dialog_.Controls.chkSettings.*field); });
-    connect(box, &QCheckBox::toggled, this, [this, field](bool on) {
+    connect(box, &QCheckBox::toggled, this, [this, field, &control](bool on) {
         dialog_.Controls.chkSettings.*field = on;
-        Changed();
+        Changed(control);
     });
     return box;
 }
@@ -203,13 +215,13 @@ QWidget* SettingsPageForm::MakeCheckBox(const SettingsControl& control) {
 QWidget* SettingsPageForm::MakeList(const SettingsControl& control) {
     auto* list = new QComboBox;
     list->setMinimumWidth(leastListWidth);
-    for (const auto& entry : control.Entries) list->addItem(Text(Tr(main_, entry.Caption)));
+    for (const auto& entry : EntriesOf(control)) list->addItem(Text(Tr(main_, entry.Caption)));
     const auto field = control.Choice;
     fills_.emplace_back([this, list, field] { list->setCurrentIndex(dialog_.Controls.*field); });
-    connect(list, &QComboBox::currentIndexChanged, this, [this, field](int place) {
+    connect(list, &QComboBox::currentIndexChanged, this, [this, field, &control](int place) {
         if (filling_) return;
         dialog_.Controls.*field = place;
-        Changed();
+        Changed(control);
     });
     return list;
 }
@@ -231,26 +243,30 @@ QWidget* SettingsPageForm::MakeOptions(const SettingsControl& control) {
         if (auto* option = group->button(dialog_.Controls.*field)) option->setChecked(true);
         StopAtChosen(*group);
     });
-    connect(group, &QButtonGroup::idToggled, this, [this, field](int place, bool on) {
+    connect(group, &QButtonGroup::idToggled, this, [this, field, &control](int place, bool on) {
         if (filling_ || !on) return;
         dialog_.Controls.*field = place;
-        Changed();
+        Changed(control);
     });
     return row;
 }
 
 QWidget* SettingsPageForm::MakeTextBox(const SettingsControl& control) {
     auto* box = new QLineEdit;
-    const bool character = control.TextLimit == 1;
     box->setMaxLength(control.TextLimit);
-    box->setFixedWidth(character ? characterWidth : numberWidth);
-    if (character) box->setAlignment(Qt::AlignCenter);
+    box->setFixedWidth(WidthOf(control));
+    if (control.TextLimit == 1) box->setAlignment(Qt::AlignCenter);
     if (control.Text == &SettingsValues::txtHotkey) txtHotkey_ = box;
     const auto field = control.Text;
-    fills_.emplace_back([this, box, field] { box->setText(Text(dialog_.Controls.*field)); });
-    connect(box, &QLineEdit::textEdited, this, [this, field](const QString& text) {
+    fills_.emplace_back([this, box, field] {
+        const QString text = Text(dialog_.Controls.*field);
+        if (box->text() == text) return; // the caret stays
+        box->setText(text);
+        box->setCursorPosition(0);
+    });
+    connect(box, &QLineEdit::textEdited, this, [this, field, &control](const QString& text) {
         dialog_.Controls.*field = Bytes(text);
-        Changed();
+        Changed(control);
     });
     return box;
 }

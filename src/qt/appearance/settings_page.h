@@ -13,6 +13,7 @@
 
 class QCheckBox;
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 
@@ -37,6 +38,7 @@ private:
     void GiveLetters(const QString& letters);
     void Add(const SettingsControl& control);
     void Place(const SettingsControl& control, QWidget* widget);
+    void PlaceBeside(QWidget* widget);
     QWidget* Make(const SettingsControl& control);
     QWidget* MakeCheckBox(const SettingsControl& control);
     QWidget* MakeList(const SettingsControl& control);
@@ -46,7 +48,7 @@ private:
     QWidget* MakeWarning(const SettingsControl& control);
     void Name(const SettingsControl& control, QWidget* widget);
     QString Caption(const char* told) const; // with the letter that it got here
-    void Changed();
+    void Changed(const SettingsControl& control);
 
     frmSettings& dialog_;
     const frmMain& main_;
@@ -56,7 +58,8 @@ private:
     QGridLayout* grid_;
     int rowHeight_; // the same for each, whatever stands in it
     int row_ = -1;
-    QCheckBox* lead_ = nullptr; // the check box that what follows beside it depends on
+    QCheckBox* lead_ = nullptr;    // the check box that what follows beside it depends on
+    QHBoxLayout* parts_ = nullptr; // of the row, where several stand beside its caption
     QWidget* first_ = nullptr;
     QLineEdit* txtHotkey_ = nullptr;
     QWidget* txtGlobalHotkey_ = nullptr;

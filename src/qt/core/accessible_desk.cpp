@@ -1,6 +1,7 @@
 #include "qt/core/accessible_desk.h"
 
 #include "core/frmMain.h"
+#include "keyboard/jump_to.h"
 #include "qt/core/accessible_surface.h"
 #include "qt/core/accessible_window.h"
 #include "qt/core/surface_widget.h"
@@ -58,6 +59,8 @@ void AccessibleDesk::Follow(const MarkSet& set) {
         for (const int index : *list) FollowSurface({SurfaceKind::Container, index});
     for (const int index : set.Pictures) FollowSurface({SurfaceKind::Picture, index});
     if (set.MiniToolbar) FollowSurface({SurfaceKind::MiniToolbar, -1});
+    if (set.QuickLaunch) FollowSurface({SurfaceKind::QuickLaunch, -1});
+    if (set.JumpTo && !set.Everything) FollowSurface({SurfaceKind::JumpTo, -1});
     FollowFocus();
 }
 
@@ -73,7 +76,8 @@ void AccessibleDesk::FollowSurface(SurfaceId id) {
 
 void AccessibleDesk::FollowFocus() {
     const auto& view = attached_.Main->View;
-    const auto now = view.FocusVisible ? view.Focus : ElementId{};
+    const bool shown = view.FocusVisible && !IsJumpToOpen(*attached_.Main); // its field has the keyboard
+    const auto now = shown ? view.Focus : ElementId{};
     if (now == focus_ && view.FocusSurface == focusSurface_) return;
     focus_ = now;
     focusSurface_ = view.FocusSurface;

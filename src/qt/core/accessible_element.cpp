@@ -1,6 +1,7 @@
 #include "qt/core/accessible_element.h"
 
 #include "core/accessible_elements.h"
+#include "keyboard/jump_to.h"
 #include "qt/core/accessible_note.h"
 #include "qt/core/accessible_place.h"
 #include "qt/core/accessible_scroll.h"
@@ -47,8 +48,8 @@ QAccessible::Role RoleOf(Role role) {
     static constexpr auto roles = std::to_array<QAccessible::Role>(
         {QAccessible::Grouping, QAccessible::StaticText, QAccessible::Button, QAccessible::StaticText,
          QAccessible::ListItem, QAccessible::EditableText, QAccessible::Graphic, QAccessible::Button,
-         QAccessible::ScrollBar, QAccessible::StaticText});
-    static_assert(roles.size() == static_cast<std::size_t>(Role::Mark) + 1);
+         QAccessible::ScrollBar, QAccessible::StaticText, QAccessible::EditableText});
+    static_assert(roles.size() == static_cast<std::size_t>(Role::Edit) + 1);
     return roles[static_cast<std::size_t>(role)];
 }
 
@@ -122,7 +123,7 @@ QAccessible::State AccessibleElement::state() const {
     const auto place = PlaceOfTold(*Main, surface_->Id(), id_);
     state.invisible = !place || !surface_->isVisible();
     state.offscreen = place && place->Scrolled;
-    state.focused = surface_->window()->isActiveWindow() && Main->View.FocusVisible &&
+    state.focused = surface_->window()->isActiveWindow() && Main->View.FocusVisible && !IsJumpToOpen(*Main) &&
                     Main->View.Focus == id_ && Main->View.FocusSurface == surface_->Id();
     return state;
 }

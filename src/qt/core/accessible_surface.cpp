@@ -2,6 +2,7 @@
 
 #include "core/accessible_elements.h"
 #include "core/frmMain.h"
+#include "keyboard/jump_to.h"
 #include "qt/core/accessible_element.h"
 #include "qt/core/accessible_place.h"
 #include "qt/core/convert.h"
@@ -18,7 +19,8 @@ bool Has(const std::vector<ElementId>& list, ElementId id) {
 }
 
 bool IsFocusShown(const frmMain& Main) {
-    return Main.View.FocusVisible && Main.View.Focus.Kind != ElementKind::None;
+    const bool typing = IsJumpToOpen(Main); // the launcher's field has the keyboard, and tells so itself
+    return Main.View.FocusVisible && Main.View.Focus.Kind != ElementKind::None && !typing;
 }
 
 // Of what can change while somebody listens.

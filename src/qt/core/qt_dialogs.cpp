@@ -3,6 +3,9 @@
 #include "qt/appearance/settings_form.h"
 #include "qt/containers/frmConProperties.h"
 #include "qt/core/convert.h"
+#include "qt/notes/text_form.h"
+#include "qt/shortcuts/frmEditLink.h"
+#include "qt/shortcuts/frmInternetShortcut.h"
 
 #include <QColorDialog>
 #include <QDir>
@@ -30,6 +33,34 @@ bool QtDialogs::Show(frmSettings& dialog) {
     if (asker_.IsEnding()) return false;
     frmSettingsForm form(dialog, asker_.Owner());
     return asker_.Ask(form) == QDialog::Accepted;
+}
+
+bool QtDialogs::Show(frmEditLink& dialog) {
+    if (asker_.IsEnding()) return false;
+    frmEditLinkForm form(dialog, asker_.Owner());
+    return asker_.Ask(form) == QDialog::Accepted;
+}
+
+bool QtDialogs::Show(frmInternetShortcut& dialog) {
+    if (asker_.IsEnding()) return false;
+    frmInternetShortcutForm form(dialog, asker_.Owner());
+    return asker_.Ask(form) == QDialog::Accepted;
+}
+
+bool QtDialogs::Show(TextQuestion& question) {
+    if (asker_.IsEnding()) return false;
+    TextForm form(question, asker_.Owner());
+    return asker_.Ask(form) == QDialog::Accepted;
+}
+
+std::optional<std::string> QtDialogs::OpenFolder(const FileQuestion& question) {
+    if (asker_.IsEnding()) return std::nullopt;
+    const QString folder = question.Folder.empty() ? QDir::homePath() : Text(question.Folder);
+    QFileDialog chooser(asker_.Owner(), Text(question.Title), folder);
+    chooser.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
+    chooser.setFileMode(QFileDialog::Directory);
+    if (asker_.Ask(chooser) != QDialog::Accepted || chooser.selectedFiles().isEmpty()) return std::nullopt;
+    return QFile::encodeName(chooser.selectedFiles().constFirst()).toStdString();
 }
 
 std::optional<std::string> QtDialogs::OpenFile(const FileQuestion& question) {

@@ -13,7 +13,11 @@ public:
 
     bool Show(frmConProperties& dialog) override;
     bool Show(frmSettings& dialog) override;
+    bool Show(frmEditLink& dialog) override;
+    bool Show(frmInternetShortcut& dialog) override;
+    bool Show(TextQuestion& question) override;
     std::optional<std::string> OpenFile(const FileQuestion& question) override;
+    std::optional<std::string> OpenFolder(const FileQuestion& question) override;
     std::optional<Color> ChooseColor(Color now, const std::string& title) override;
 
 private:

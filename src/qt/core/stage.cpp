@@ -4,6 +4,7 @@
 #include "qt/appearance/looks.h"
 #include "qt/core/convert.h"
 #include "qt/dock/edge_window.h"
+#include "qt/shortcuts/quick_launch_window.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -28,7 +29,8 @@ struct EdgeTitle {
 };
 
 constexpr EdgeTitle edgeTitles[] = {{SurfaceKind::MiniDock, "Quillmere Bar"},
-                                    {SurfaceKind::MiniToolbar, "QuillmereMiniToolbar"}};
+                                    {SurfaceKind::MiniToolbar, "QuillmereMiniToolbar"},
+                                    {SurfaceKind::QuickLaunch, "Quillmere Speed Launch"}};
 
 bool LiesIn(const PictureView& picture, int container) {
     return picture.In == InContainer(container);
@@ -67,6 +69,7 @@ void Stack(const QWidget& parent, const std::vector<QWidget*>& wanted) {
 
 Stage::Stage(const Attachment& attached, Looks& looks, std::string iconFolder)
     : attached_(attached), looks_(looks), iconFolder_(std::move(iconFolder)), notes_(attached, looks.Fonts),
+      launcher_(attached, looks.Fonts, [this] { Drain(); }),
       accessible_(attached, [this](SurfaceId id) { return Find(id); }),
       watch_(attached, [this](qt::x11::WindowId native) { return NameOf(native); }) {}
 
@@ -114,7 +117,10 @@ SurfaceWidget& Stage::Edge(SurfaceKind kind) {
         std::make_unique<SurfaceWidget>(id, SurfaceContext{attached_, looks_, notes_, *this}, nullptr));
     SurfaceWidget& made = *edges_.back();
     made.setWindowTitle(QString::fromLatin1(std::ranges::find(edgeTitles, kind, &EdgeTitle::Kind)->Title));
-    qt::MakeEdgeWindow(made);
+    if (kind == SurfaceKind::QuickLaunch)
+        MakeQuickLaunchWindow(made, attached_);
+    else
+        qt::MakeEdgeWindow(made);
     surfaces_[id] = &made;
     return made;
 }
@@ -122,11 +128,12 @@ SurfaceWidget& Stage::Edge(SurfaceKind kind) {
 QWidget* Stage::Known(WindowId window) const {
     if (window == MainWindow) return main_.get();
     if (window == MiniDockWindow) return Find({SurfaceKind::MiniDock, -1});
+    if (window == QuickLaunchWindow) return Find({SurfaceKind::QuickLaunch, -1});
     return window == MiniToolbarWindow ? Find({SurfaceKind::MiniToolbar, -1}) : nullptr;
 }
 
 std::optional<WindowId> Stage::NameOf(qt::x11::WindowId native) const {
-    for (const WindowId name : {MainWindow, MiniDockWindow})
+    for (const WindowId name : {MainWindow, MiniDockWindow, QuickLaunchWindow})
         if (const QWidget* widget = Known(name); widget && widget->internalWinId() == native) return name;
     return std::nullopt;
 }
@@ -134,6 +141,7 @@ std::optional<WindowId> Stage::NameOf(qt::x11::WindowId native) const {
 QWidget* Stage::Window(WindowId window) {
     if (window == MiniDockWindow) return &Edge(SurfaceKind::MiniDock);
     if (window == MiniToolbarWindow) return &Edge(SurfaceKind::MiniToolbar);
+    if (window == QuickLaunchWindow) return &Edge(SurfaceKind::QuickLaunch);
     if (window == MainWindow) return &Main();
     if (window == TipWindow) return &Tip();
     return window == SplashWindow ? &Splash() : nullptr;
@@ -164,12 +172,14 @@ void Stage::Apply(const MarkSet& set) {
     if (set.Tip && tip_) tip_->update();
     if (set.MiniDock || set.Everything) Update(Find({SurfaceKind::MiniDock, -1}));
     if (set.MiniToolbar || set.Everything) Update(Find({SurfaceKind::MiniToolbar, -1}));
+    if (set.QuickLaunch || set.Everything) Update(Find({SurfaceKind::QuickLaunch, -1}));
     if (set.Everything)
         SyncAll();
     else
         SyncMarked(set);
     if (set.Stacking || std::exchange(restack_, false)) Restack();
     notes_.Follow([this](int index) { return Sync({SurfaceKind::Container, index}); });
+    launcher_.Follow([this] { return Sync({SurfaceKind::JumpTo, -1}); });
     accessible_.Follow(set);
 }
 
@@ -179,6 +189,7 @@ void Stage::SyncMarked(const MarkSet& set) {
     for (const int index : set.Notes) Update(Find({SurfaceKind::Container, index}));
     if (set.Workspace) RepaintWorkspace();
     if (set.Overlay) Update(Sync({SurfaceKind::Overlay, -1}));
+    if (set.JumpTo) Update(Sync({SurfaceKind::JumpTo, -1}));
 }
 
 void Stage::SyncAll() {
@@ -258,6 +269,7 @@ void Stage::Restack() {
         if (QWidget* surface = Find(id)) byParent[surface->parentWidget()].push_back(surface);
     for (const auto& [parent, wanted] : byParent) Stack(*parent, wanted);
     notes_.Raise();
+    launcher_.Raise();
 }
 
 // What containers hide is not painted again, or every word in the title row would cost them all.

@@ -11,6 +11,7 @@
 #include "qt/dock/main_widget.h"
 #include "qt/dock/splash_widget.h"
 #include "qt/dock/tip_widget.h"
+#include "qt/keyboard/launcher_desk.h"
 #include "qt/notes/note_desk.h"
 
 #include <QObject>
@@ -70,6 +71,7 @@ private:
     Looks& looks_;
     std::string iconFolder_;
     NoteDesk notes_;
+    LauncherDesk launcher_;
     AccessibleDesk accessible_;
     std::unique_ptr<MainWidget> main_;
     std::unique_ptr<SplashWidget> splash_;

@@ -71,6 +71,10 @@ Qt::CursorShape ShapeOfElement(ElementKind kind) {
         return Qt::SizeFDiagCursor;
     case ElementKind::ContainerNote:
         return Qt::IBeamCursor;
+    case ElementKind::lblHistory:
+    case ElementKind::lblGo:
+    case ElementKind::lblClosePicJumpTo:
+        return Qt::PointingHandCursor;
     default:
         return Qt::ArrowCursor;
     }
@@ -126,7 +130,8 @@ SurfaceWidget::SurfaceWidget(SurfaceId id, const SurfaceContext& context, QWidge
     const bool workspace = id.Kind == SurfaceKind::Workspace;
     setAttribute(Qt::WA_OpaquePaintEvent, workspace || id.Kind == SurfaceKind::MiniDock); // others are round
     setAttribute(Qt::WA_TransparentForMouseEvents, id.Kind == SurfaceKind::Overlay);
-    setAcceptDrops(id.Kind != SurfaceKind::Overlay);
+    // What is dropped on the launcher's box goes to the workspace below it.
+    setAcceptDrops(id.Kind != SurfaceKind::Overlay && id.Kind != SurfaceKind::JumpTo);
     if (workspace) setFocusPolicy(Qt::StrongFocus);
 }
 

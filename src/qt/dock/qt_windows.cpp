@@ -13,6 +13,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace quill {
 namespace {
@@ -150,6 +151,14 @@ void QtWindows::ShowCursor(bool shown) {
         QGuiApplication::restoreOverrideCursor();
     else
         QGuiApplication::setOverrideCursor(Qt::BlankCursor);
+}
+
+void QtWindows::ShowBusy(bool busy) {
+    if (busy == std::exchange(busy_, busy)) return;
+    if (busy)
+        QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
 }
 
 QWidget* QtWindows::Widget(WindowId window) const {

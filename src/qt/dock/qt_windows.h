@@ -33,6 +33,7 @@ public:
     Point GetCursorPos() const override;
     void SetCursorPos(Point place) override;
     void ShowCursor(bool shown) override;
+    void ShowBusy(bool busy) override;
 
 private:
     QWidget* Widget(WindowId window) const;
@@ -42,6 +43,7 @@ private:
     const DisplayHolder& display_;
     PointerDrag drag_;
     mutable DesktopWindows others_;
+    bool busy_ = false;
 };
 
 } // namespace quill

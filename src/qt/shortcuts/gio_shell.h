@@ -7,18 +7,23 @@
 
 namespace quill {
 
+class Catalogue;
+
 class GioShell : public Shell {
 public:
-    explicit GioShell(Worker& worker) : worker_(worker) {}
+    GioShell(Worker& worker, const Catalogue& catalogue) : worker_(worker), catalogue_(catalogue) {}
 
     Status ShellExecute(const LaunchRequest& request) override;
     Status StartProgram(const std::string& path, const std::vector<std::string>& arguments) override;
     void ShowInFolder(const std::string& path) override;
+    Status ShowFileProperties(const std::string& path) override;
+    Status MoveToTrash(const std::string& path) override;
     bool PathIsNetworkPath(const std::string& path) const override;
     void PathFileExists(const std::string& path, int timeout, std::function<void(bool)> handler) override;
 
 private:
     Worker& worker_;
+    const Catalogue& catalogue_;
 };
 
 } // namespace quill

@@ -4,13 +4,13 @@
 #include "core/frmMain.h"
 #include "qt/appearance/qt_canvas.h"
 #include "qt/core/convert.h"
+#include "qt/shortcuts/foreign_data.h"
 #include "shortcuts/uri_list.h"
 
 #include <QDrag>
 #include <QMimeData>
 #include <QPainter>
 #include <QPixmap>
-#include <QSysInfo>
 #include <QUrl>
 
 #include <algorithm>
@@ -21,7 +21,7 @@ namespace {
 
 constexpr const char* objectsFormat = "application/x-quillmere-objects"; // a line each: kind and index
 constexpr const char* uriFormat = "text/uri-list";
-constexpr int longestText = 16384;
+constexpr const char* browserFormat = "text/x-moz-url";
 constexpr qreal largestPicture = 240; // pixels; a larger one would hide where it is dropped
 
 QByteArray ObjectLines(const DragData& data) {
@@ -41,11 +41,33 @@ std::vector<DraggedObject> ReadObjects(const QByteArray& lines) {
     return objects;
 }
 
+// As it stands, where that can be a line of the list; else as the toolkit writes it for the net.
+QByteArray UriOf(const std::string& address) {
+    const auto isPlain = [](char letter) { return letter > ' ' && letter < 127; };
+    if (std::ranges::all_of(address, isPlain)) return QByteArray::fromStdString(address);
+    return QUrl(Text(address)).toEncoded();
+}
+
+void AddLine(QByteArray& lines, const QByteArray& uri) {
+    if (!uri.isEmpty()) lines += uri + "\r\n";
+}
+
 QByteArray UriLines(const DragData& data) {
     QByteArray lines;
-    for (const auto& file : data.Files) lines += QByteArray::fromStdString(FileUri(file)) + "\r\n";
-    for (const auto& address : data.Addresses) lines += QUrl(Text(address)).toEncoded() + "\r\n";
+    for (const auto& file : data.Files) AddLine(lines, QByteArray::fromStdString(FileUri(file)));
+    for (const auto& address : data.Addresses) AddLine(lines, UriOf(address));
     return lines;
+}
+
+// The form in which browsers hand an address to each other: it and a title, two bytes a letter.
+QByteArray BrowserAddress(const std::string& address) {
+    const QString line = QString::fromLatin1(UriOf(address));
+    const QString both = line + QLatin1Char('\n') + line;
+    return {reinterpret_cast<const char*>(both.utf16()), both.size() * 2};
+}
+
+bool IsOneAddress(const DragData& data) {
+    return data.Files.empty() && data.Addresses.size() == 1;
 }
 
 } // namespace
@@ -55,6 +77,7 @@ std::unique_ptr<QMimeData> MimeOf(const DragData& data) {
     mime->setData(QLatin1String(objectsFormat), ObjectLines(data));
     if (const QByteArray uris = UriLines(data); !uris.isEmpty())
         mime->setData(QLatin1String(uriFormat), uris);
+    if (IsOneAddress(data)) mime->setData(QLatin1String(browserFormat), BrowserAddress(data.Addresses[0]));
     if (!data.Text.empty()) mime->setText(Text(data.Text));
     return mime;
 }
@@ -63,15 +86,11 @@ DragData DragDataOf(const QMimeData& mime, DragSource source) {
     DragData data;
     if (source == DragSource::ThisProgram)
         data.Objects = ReadObjects(mime.data(QLatin1String(objectsFormat)));
-    if (mime.hasFormat(QLatin1String(uriFormat))) {
-        const QByteArray uris = mime.data(QLatin1String(uriFormat));
-        const std::string host = Bytes(QSysInfo::machineHostName());
-        UriList list = ReadUriList({uris.constData(), static_cast<std::size_t>(uris.size())}, host);
-        data.Files = std::move(list.Files);
-        data.Addresses = std::move(list.Addresses);
-    }
+    ForeignData foreign = ReadForeignData(mime);
+    data.Files = std::move(foreign.Files);
+    data.Addresses = std::move(foreign.Addresses);
     const bool nothingElse = data.Objects.empty() && data.Files.empty() && data.Addresses.empty();
-    if (nothingElse && mime.hasText()) data.Text = Bytes(mime.text().left(longestText));
+    if (nothingElse) data.Text = PlainTextOf(mime);
     return data;
 }
 

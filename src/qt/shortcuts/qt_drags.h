@@ -1,7 +1,6 @@
 // QtDrags: drags that begin in this program, and the data of those that come over its surfaces. Files travel
-// as text/uri-list, as every file manager reads and writes them. Whatever others send is data of strangers:
-// it is cut to a length that does not hold up anybody, and what is not plainly a path or an address is left
-// out.
+// as text/uri-list, as every file manager reads and writes them; what others send is read by
+// qt/shortcuts/foreign_data.h.
 #pragma once
 
 #include "platform/drags.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <filesystem>
 #include <memory>
 #include <mntent.h>
 #include <string_view>
@@ -68,7 +69,8 @@ bool IsRemoteScheme(const std::string& text) {
     return Holds(remoteSchemes, SchemeOf(text));
 }
 
-bool IsOnRemoteMount(const std::string& path) {
+bool IsOnRemoteMount(const std::string& asked) {
+    const std::string path = std::filesystem::path(asked).lexically_normal().string();
     const std::unique_ptr<std::FILE, CloseTable> table(setmntent("/proc/self/mounts", "r"));
     if (!table) return false;
     std::size_t longest = 0;
