@@ -43,9 +43,9 @@ public:
 private:
     Platform Ports() {
         const auto fake = computer_.MakePlatform();
-        return {files_,       fake.Places,    fake.Clock,     fake.Instance, fake.Session,
-                fake.Windows, fake.Shell,     fake.Questions, fake.Dialogs,  fake.Drags,
-                fake.Texts,   fake.Catalogue, fake.Images,    fake.Worker,   fake.Zip,
+        return {files_,       fake.Places,    fake.Clock,     fake.Instance,  fake.Session,
+                fake.Windows, fake.Shell,     fake.Questions, fake.Dialogs,   fake.Drags,
+                fake.Texts,   fake.Catalogue, fake.Images,    fake.Worker,    fake.Zip,
                 fake.Tray,    fake.Hotkeys,   fake.Counters,  fake.Clipboard, fake.Web};
     }
 

@@ -57,13 +57,6 @@ Size BadgeSize(const std::vector<DraggedObject>& objects) {
     return {BadgeHeight + (digits - 1) * BadgeHeight / 2, BadgeHeight};
 }
 
-// Of the workspace's two colours, or where they are too near to each other the extreme that is read best.
-Color InkOn(const frmMain& Main, Color ground) {
-    constexpr Color black = 0x000000, white = 0xFFFFFF;
-    if (ContrastRatio(Main.View.ForeColor, ground) >= ReadableContrast) return Main.View.ForeColor;
-    return ContrastRatio(black, ground) > ContrastRatio(white, ground) ? black : white;
-}
-
 void PaintRow(const frmMain& Main, const Row& row, Color ink, Canvas& canvas) {
     if (!canvas.Icon(GetIconSource(Main, row.Index, true), row.Icon))
         canvas.Symbol(GenericSymbol(Main.Link(row.Index)), row.Icon, ink, 0.8F);

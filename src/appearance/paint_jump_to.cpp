@@ -87,6 +87,8 @@ void PaintJumpIcon(const Box& box, const Rect& place) {
     const auto source = shortcut ? GetIconSource(box.Main, icon.Shortcut, true)
                                  : IconSource{icon.File, icon.ThemeName, IsImageName(icon.File)};
     if (box.Paper.Icon(source, place)) return;
+    // What lies on a server that does not answer shows as what it is.
+    if (shortcut && !icon.ThemeName.empty() && box.Paper.Icon({{}, icon.ThemeName, false}, place)) return;
     const auto symbol = shortcut ? GenericSymbol(box.Main.Link(icon.Shortcut)) : icon.Symbol;
     if (!symbol.empty()) box.Paper.Symbol(symbol, place, box.Colors.Soft);
 }

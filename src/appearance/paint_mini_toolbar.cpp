@@ -20,12 +20,6 @@ constexpr float BarFromBottom = 8 * TwipsPerPixel;
 constexpr float ColorSymbolUp = 3 * TwipsPerPixel; // makes room for the bar
 constexpr float HeldOpacity = 0.4F;                // of what the lock holds
 
-// The workspace's own colour of letters where that can be read.
-Color InkOn(const frmMain& Main, Color ground) {
-    const bool readable = ContrastRatio(Main.View.ForeColor, ground) >= ReadableContrast;
-    return readable ? Main.View.ForeColor : ExtremeOn(ground);
-}
-
 Color PlateColor(Color ground) {
     return ExtremeOn(ground) == 0 ? Darker(ground, false) : Lighter(Lighter(ground, false), false);
 }

@@ -18,12 +18,6 @@ constexpr float RowPoints = 10;
 constexpr float SymbolOpacity = 0.8F;
 constexpr int Paleness = 4; // tenths of the ground in the ink of an empty slot
 
-// The workspace's own colour of letters where that can be read.
-Color InkOn(const frmMain& Main, Color ground) {
-    const bool readable = ContrastRatio(Main.View.ForeColor, ground) >= ReadableContrast;
-    return readable ? Main.View.ForeColor : ExtremeOn(ground);
-}
-
 // Nearer to the ground, as far as it still can be read.
 Color PaleInkOn(Color ink, Color ground) {
     const auto mixed = [](int one, int other) { return (one * (10 - Paleness) + other * Paleness) / 10; };
@@ -31,6 +25,8 @@ Color PaleInkOn(Color ink, Color ground) {
                            mixed(BlueOf(ink), BlueOf(ground)));
     return ContrastRatio(pale, ground) >= ReadableContrast ? pale : ink;
 }
+
+constexpr float RimOpacity = 0.35F;
 
 Color PlateColor(Color ground) {
     return ExtremeOn(ground) == 0 ? Darker(ground, false) : Lighter(ground, false);
@@ -75,7 +71,7 @@ void PaintQuickLaunch(frmMain& Main, Canvas& canvas) {
     WalkElements(Main, {SurfaceKind::QuickLaunch, -1}, [&](const Spot& spot) {
         if (spot.Id.Kind == ElementKind::frmQuickLaunch) {
             canvas.FillRect(spot.Place, ground);
-            Outline(canvas, spot.Place, ContrastColor(ground), HairLine);
+            Outline(canvas, spot.Place, InkOn(Main, ground), HairLine, RimOpacity);
         }
         if (spot.Id.Kind == ElementKind::lblSpeedLaunch) PaintRow(Main, spot.Id.Index, canvas);
         return true;

@@ -25,13 +25,6 @@ FontSpec TextFont(const frmMain& Main) {
     return {Main.Settings.FontName, points};
 }
 
-// The workspace's own colour of letters where that can be read.
-Color InkOn(const frmMain& Main, Color ground) {
-    const Color white = Rgb(255, 255, 255), black = Rgb(0, 0, 0);
-    if (ContrastRatio(Main.View.ForeColor, ground) >= ReadableContrast) return Main.View.ForeColor;
-    return ContrastRatio(white, ground) > ContrastRatio(black, ground) ? white : black;
-}
-
 } // namespace
 
 TipLayout LayTip(const frmMain& Main, const std::string& text, float highest) {

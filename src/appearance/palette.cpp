@@ -32,6 +32,11 @@ Color ExtremeOn(Color ground) {
     return ContrastRatio(ground, black) > ContrastRatio(ground, white) ? black : white;
 }
 
+Color InkOn(const frmMain& Main, Color ground) {
+    const bool readable = ContrastRatio(Main.View.ForeColor, ground) >= ReadableContrast;
+    return readable ? Main.View.ForeColor : ExtremeOn(ground);
+}
+
 void AddHalo(TextStyle& style, Color ink, Color ground) {
     const bool light = ContrastRatio(ink, Rgb(0, 0, 0)) > ContrastRatio(ink, Rgb(255, 255, 255));
     style.Halo = true;

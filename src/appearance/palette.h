@@ -21,6 +21,9 @@ void Outline(Canvas& canvas, const Rect& place, Color color, float width, float 
 // Black or white, whichever is read better on this ground; 4.5 to 1 at least.
 Color ExtremeOn(Color ground);
 
+// The workspace's own colour of letters where it can be read on this ground, else black or white.
+Color InkOn(const frmMain& Main, Color ground);
+
 // The halo of a text where its ink alone does not stand out from the ground.
 void AddHalo(TextStyle& style, Color ink, Color ground);
 

@@ -2,6 +2,8 @@
 #include "containers/layout.h"
 #include "containers/measures.h"
 #include "containers/scroll.h"
+#include "keyboard/jump_to.h"
+#include "keyboard/jump_to_measures.h"
 
 #include <algorithm>
 
@@ -52,6 +54,13 @@ void LayGroupFrame(WorkspaceView& view, bool shown) {
     frame.Place.Top = view.picMoveMe.Place.Bottom() + measures::GroupFrameBelowTitle;
 }
 
+// The launcher's box stays in the middle.
+void LayJumpTo(frmMain& Main) {
+    if (!IsJumpToOpen(Main)) return;
+    Main.Keys.PicJumpToLink.Place = PlaceOfJumpTo(Main);
+    Main.Marks.JumpTo();
+}
+
 } // namespace
 
 void ResizeForm(frmMain& Main) {
@@ -59,6 +68,7 @@ void ResizeForm(frmMain& Main) {
     view.picBack.Place = BackPlace(view.Window, !Main.Settings.PreventWindowMovement);
     LayTitle(view, Main.Dock.Locked);
     LayGroupFrame(view, Main.Group.FrameLinkGroup);
+    LayJumpTo(Main);
     if (Main.IsLoading) LayAllScrollBars(Main); // the readers leave them to the end of the load
     Main.Marks.Workspace();
 }

@@ -26,6 +26,7 @@
 #include "dock/tray_icon.h"
 #include "dock/workspace_lock.h"
 #include "keyboard/jump_to.h"
+#include "keyboard/matching.h"
 #include "notes/notes.h"
 #include "platform/session.h"
 #include "shortcuts/drags.h"
@@ -66,6 +67,7 @@ void TimerServices_Timer(frmMain& Main) {
     ShowTrayIcon(Main, Main.Settings.ShowTrayIcon);
     if (Main.Settings.SystemInfo) StartCPUMonitoring(Main);
     StartGlobalHotkey(Main);
+    Captions(Main); // the first letter that is typed finds it made
 }
 
 constexpr TimerRow timers[] = {

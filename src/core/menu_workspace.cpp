@@ -7,7 +7,7 @@
 #include "containers/flip.h"
 #include "containers/lifecycle.h"
 #include "containers/lock.h"
-#include "containers/measures.h"
+#include "containers/new_place.h"
 #include "containers/selection.h"
 #include "containers/undo.h"
 #include "core/menu_tables.h"
@@ -34,30 +34,6 @@ namespace quill {
 namespace {
 
 constexpr const char* HelpPage = "Quillmere Home Page.html";
-constexpr float stepAside = 300; // twips, about a title row
-constexpr int mostSteps = 20;
-
-bool StandsAt(const frmMain& Main, Point corner) {
-    for (const auto& row : Live(Main.Containers)) {
-        const auto& place = Main.ConView(row.Index).Container.Place;
-        if (place.Left == corner.X && place.Top == corner.Y) return true;
-    }
-    return false;
-}
-
-// Where the last press was, but whole, and not exactly over a container that nobody would then see.
-void ChooseNewPlace(frmMain& Main) {
-    const auto& back = Main.View.picBack.Place;
-    const float edge = measures::NewContainerEdge + measures::EdgeGap;
-    const float top = Main.View.picMoveMe.Place.Bottom();
-    const float right = std::max(0.0F, back.Width - edge), bottom = std::max(top, back.Height - edge);
-    Point& place = Main.Group.NewContainerPos;
-    place = {std::clamp(place.X, 0.0F, right), std::clamp(place.Y, top, bottom)};
-    const Point step{place.X + stepAside > right ? -stepAside : stepAside,
-                     place.Y + stepAside > bottom ? -stepAside : stepAside};
-    for (int tries = 0; tries < mostSteps && StandsAt(Main, place); ++tries)
-        place = {std::clamp(place.X + step.X, 0.0F, right), std::clamp(place.Y + step.Y, top, bottom)};
-}
 
 void mnuNew_Click(frmMain& Main) {
     ChooseNewPlace(Main);

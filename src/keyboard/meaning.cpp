@@ -45,7 +45,8 @@ TypedMeaning Started(int shortcut) {
     return {Meaning::Shortcut, shortcut, -1, {}};
 }
 
-// lower begins with the shortcut's name and a blank.
+// The text begins with the shortcut's name and a blank. A command takes none: what is typed would be read by
+// a shell in its place.
 TypedMeaning WithParameters(const frmMain& Main, int shortcut, std::string_view text) {
     const auto name = LowerCase(Main.Link(shortcut).FullCaption).size();
     // A letter may have more bytes than its lower case, so the name is counted off in letters.
@@ -56,7 +57,9 @@ TypedMeaning WithParameters(const frmMain& Main, int shortcut, std::string_view 
         folded += LowerCase(text.substr(end, next - end)).size();
         end = next;
     }
-    return {Meaning::WithParameters, shortcut, -1, std::string(Trimmed(text.substr(end)))};
+    const auto parameters = Trimmed(text.substr(end));
+    if (!Main.Link(shortcut).Command) return {Meaning::WithParameters, shortcut, -1, std::string(parameters)};
+    return parameters.empty() ? Started(shortcut) : TypedMeaning{};
 }
 
 bool StandsInFront(const frmMain& Main, int shortcut, std::string_view lower) {

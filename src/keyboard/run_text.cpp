@@ -1,5 +1,6 @@
 #include "keyboard/run_text.h"
 
+#include "containers/new_place.h"
 #include "core/tr.h"
 #include "dock/dock_commands.h"
 #include "dock/docking.h"
@@ -96,6 +97,7 @@ bool RunCalculator(frmMain& Main, const Order& order) {
 }
 
 bool RunNote(frmMain& Main, const Order& order) {
+    ChooseNewPlace(Main);
     if (!NewNote(Main, order.Is.Argument, Tr(Main, "Note"), false)) return false;
     const int container = Main.NextContainerIndex - 1;
     SaveContainers(Main, true);

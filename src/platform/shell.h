@@ -17,7 +17,8 @@ struct LaunchRequest {
     std::string Directory;  // start folder, empty: the home folder
     int Show = 1;           // 1 normal, 2 minimised, 3 maximised
     bool Command = false;
-    // Passed as they are, instead of Parameters when there are any; a desktop entry takes them as its documents.
+    // Passed as they are, instead of Parameters when there are any; a desktop entry takes them as its
+    // documents.
     std::vector<std::string> Arguments{};
 };
 

@@ -21,7 +21,7 @@
 namespace quill {
 namespace {
 
-constexpr LinkField styleFields[] = {LinkField::Bold, LinkField::Size, LinkField::Color};
+constexpr LinkField styleFields[] = {LinkField::Bold, LinkField::Size, LinkField::Ink};
 
 bool IsStyle(LinkField field) {
     return std::ranges::find(styleFields, field) != std::end(styleFields);
@@ -295,7 +295,7 @@ int frmEditLink::MakeClone() {
 void frmEditLink::WriteStyle(int Index) {
     const bool toAll = IsForSeveral() && chkApplyStyle;
     for (const LinkField field : styleFields)
-        if (toAll || (Index == written_ && IsChanged(field))) WriteField(Main, Index, field, *this);
+        if (toAll || (Index == written_ && IsChanged(field))) WriteLinkField(Main, Index, field, *this);
 }
 
 // The digit has one owner, which is the first of several.
@@ -306,7 +306,8 @@ void frmEditLink::SaveShortcutProperties(int Index) {
         const bool marker =
             field == LinkField::Label && IsForSeveral() && Trimmed(txtLabel) == SeveralNames(Main);
         const bool others = field == LinkField::SpeedLaunch && Index != written_;
-        if (IsChanged(field) && !IsStyle(field) && !marker && !others) WriteField(Main, Index, field, value);
+        if (IsChanged(field) && !IsStyle(field) && !marker && !others)
+            WriteLinkField(Main, Index, field, value);
     });
     WriteStyle(Index);
     ShowStyle(Main, Index);

@@ -37,7 +37,7 @@ enum class LinkField {
     SpeedLaunch,
     Bold,
     Size,
-    Color,
+    Ink,
 };
 inline constexpr int LinkFields = 17;
 
@@ -117,7 +117,7 @@ private:
 LinkProperties PropertiesOf(const frmMain& Main, int Index);
 bool SameField(LinkField field, const LinkProperties& one, const LinkProperties& other);
 // Into the record, and what shows of it. Neither places nor saves; a size that is none is left out.
-void WriteField(frmMain& Main, int Index, LinkField field, const LinkProperties& value);
+void WriteLinkField(frmMain& Main, int Index, LinkField field, const LinkProperties& value);
 // What a line of the dialog says as a record has it.
 std::string PathOfLine(const std::string& line);
 std::string LineOfPath(const std::string& path);

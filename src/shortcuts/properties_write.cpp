@@ -124,7 +124,7 @@ constexpr FieldRow rows[] = {
     {LinkField::SpeedLaunch, &Same<&Value::cboSpeedLaunch>, &WriteSpeedLaunch},
     {LinkField::Bold, &Same<&Value::ChkBold>, &WriteAsIs<&Value::ChkBold, &clsShortcut::FontBold>},
     {LinkField::Size, &Same<&Value::txtSize>, &WriteSize},
-    {LinkField::Color, &Same<&Value::PicLinkColor>, &WriteAsIs<&Value::PicLinkColor, &clsShortcut::Color>},
+    {LinkField::Ink, &Same<&Value::PicLinkColor>, &WriteAsIs<&Value::PicLinkColor, &clsShortcut::Color>},
 };
 static_assert(std::size(rows) == LinkFields);
 
@@ -179,7 +179,7 @@ bool SameField(LinkField field, const LinkProperties& one, const LinkProperties&
     return RowOf(field).Same(one, other);
 }
 
-void WriteField(frmMain& Main, int Index, LinkField field, const LinkProperties& value) {
+void WriteLinkField(frmMain& Main, int Index, LinkField field, const LinkProperties& value) {
     RowOf(field).Write(Main, Index, value);
 }
 

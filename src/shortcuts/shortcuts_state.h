@@ -66,7 +66,6 @@ struct ShortcutsState {
     std::int64_t PressTick = 0;         // GetTickCount of the last press on a label
     int ClickStarted = -1;              // shortcut that the last release has started; -1 after a press
     std::uint32_t Starts = 0;           // counts every start that the system has taken
-    bool ErrorShowing = false;          // a failed start is being told
     bool PropertiesOpen = false;        // the properties dialog is
     bool Dropping = false;              // a drop is being taken; nothing collapses meanwhile
     std::uint32_t CaptionsRevision = 1; // counts every change of a FullCaption, and rows that come or go

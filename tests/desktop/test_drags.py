@@ -207,8 +207,6 @@ class Drags(DesktopTest):
         until(lambda: "proposed" in other.stdout, "it is dropped: " + other.stdout)
         self.assertIn("dropped text/uri-list " + quote("https://a.example/x?y=1\r\n", safe="/:"), other.stdout)
         self.assertIn("dropped text/plain " + quote("https://a.example/x?y=1", safe="/:"), other.stdout)
-        wide = "https://a.example/x?y=1\nhttps://a.example/x?y=1".encode("utf-16-le")
-        self.assertIn("dropped text/x-moz-url " + quote(wide, safe="/:"), other.stdout)
 
     def test_a_command_is_its_text_and_no_file(self):
         self.keep(links=files.link("Do", "/bin/sh", param="echo 'a b'", command=1, x=1000, y=1500))
@@ -286,8 +284,10 @@ class Drags(DesktopTest):
     def test_an_address_comes_in_every_form_in_which_browsers_give_it(self):
         forms = {
             "https://a.example/1": {"text/uri-list": b"https://a.example/1\r\n", "text/plain": b"https://a.example/1"},
-            "https://a.example/2": {"text/x-moz-url": "https://a.example/2\nIts title".encode("utf-16-le")},
+            "https://a.example/2": {"text/uri-list": b"https://a.example/2",
+                                    "text/x-moz-url": "https://a.example/2\nIts title".encode("utf-16-le")},
             "https://a.example/3": {"_NETSCAPE_URL": b"https://a.example/3\nIts title"},
+            "https://a.example/4": {"text/plain": b"https://a.example/4"},
         }
         self.keep()
         self.open()
@@ -296,9 +296,26 @@ class Drags(DesktopTest):
             other.say("clear")
             for name, data in {**offered, "text/html": b"<a href='https://b.example/'>x</a>"}.items():
                 other.say("data %s %s" % (name, quote(data)))
-            self.carry(middle, self.at(1500, 1500 + 1500 * place))
+            self.carry(middle, self.at(1500, 1000 + 1500 * place))
             self.await_link("Quillmere.REC", address)
         self.assertEqual(set(self.links("Quillmere.REC")), set(forms))
+
+    def test_a_link_of_the_desktop_moves_into_the_workspace_and_its_file_into_the_trash(self):
+        folder = os.path.join(self.desktop.home, "Desktop")
+        os.mkdir(folder)
+        link, other_file = os.path.join(folder, "News.url"), os.path.join(folder, "letter.txt")
+        files.write(link, "[InternetShortcut]\r\nURL=https://a.example/x\r\n")
+        files.write(other_file, "words")
+        self.keep(extra=files.lines("[ExtractURLs]", 1, "[DeleteDesktopShortcuts]", 1))
+        self.open()
+        other, middle = self.other_program()
+        self.offer(other, uris="file://%s\r\nfile://%s\r\n" % (link, other_file))
+        self.carry(middle, self.at(1500, 1500))
+        self.await_link("Quillmere.REC", "News")
+        until(lambda: not os.path.exists(link), "its file is gone")
+        trashed = os.path.join(self.desktop.env["XDG_DATA_HOME"], "Trash", "files", "News.url")
+        self.assertIn("https://a.example/x", files.read(trashed))
+        self.assertEqual(files.read(other_file), "words")
 
     def test_markup_alone_is_refused(self):
         self.keep()

@@ -72,7 +72,8 @@ class FileManager(menus.MenuCase):
         for step in (12, 24, 36):
             self.desktop.move_to(start[0] + step, start[1] + step // 2)
             self.desktop.settle()
-        for away in (3, 1, 0):
+        # The file manager asks what it is, looks at the files, and takes them only at a move after that.
+        for away in range(12, -1, -1):
             self.desktop.move_to(end[0] - away, end[1])
             self.desktop.settle()
         self.desktop.release()

@@ -317,7 +317,7 @@ class WorkspaceMenu(MenuCase):
     def test_the_command_line_help_shows(self):
         self.keep_two()
         self.open()
-        self.workspace_menu("l")
+        self.workspace_menu("ll")
         self.await_windows(2, "the box shows")
         self.desktop.key("Escape")
         self.await_windows(1, "it goes")

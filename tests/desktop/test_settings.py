@@ -90,7 +90,7 @@ class Settings(menus.MenuCase):
         self.open_dialog(extra=files.lines("[OnTop]", 0))
         self.desktop.key("alt+k", "alt+p")
         self.await_setting("[OnTop]", 1)
-        self.assertTrue(self.desktop.is_above(self.dialog, self.window))
+        until(lambda: self.desktop.is_above(self.dialog, self.window), "it lies above a workspace that is on top")
         self.desktop.click(*self.at(10500, 7200))
         until(lambda: self.desktop.is_above(self.dialog, self.window), "it lies above a workspace that is clicked")
 

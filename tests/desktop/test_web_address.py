@@ -136,7 +136,7 @@ class WebAddress(menus.MenuCase):
         self.add_with_picture(self.site.address("/deep/page?x=1"), "Site")
         icon = self.await_icon("Site")
         self.assertTrue(self.uses_network_library())
-        self.assertEqual(self.site.asked, ["/favicon.ico"])
+        self.assertEqual(set(self.site.asked), {"/favicon.ico"})
         self.assertEqual(os.path.dirname(icon), os.path.join(self.folder, "iconcache"))
         with open(icon, "rb") as file:
             self.assertEqual(file.read(), self.picture)
@@ -145,7 +145,7 @@ class WebAddress(menus.MenuCase):
         until(lambda: tuple(self.desktop.pixel(*middle)) == GREEN, "it is seen")
         self.add_with_picture(self.site.address("/"), "Again")
         self.await_icon("Again")
-        self.assertNotIn("cookie", self.site.headers[1], "what a site wants to know again it is not told")
+        self.assertNotIn("cookie", self.site.headers[-1], "what a site wants to know again it is not told")
 
     def test_redirects_are_followed_to_the_web_alone_and_failures_leave_nothing(self):
         wrong = {

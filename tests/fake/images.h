@@ -25,7 +25,7 @@ public:
 
     std::map<std::string, Size> Sizes;
     std::function<Size(const std::string&)> OnSize; // for files whose names nobody knows before
-    std::map<std::string, PixelGrid> Pixels; // by file
+    std::map<std::string, PixelGrid> Pixels;        // by file
     std::vector<std::string> Forgotten;
 };
 

@@ -104,6 +104,14 @@ TEST_F(JumpTo, DockingClosesIt) {
     EXPECT_FALSE(IsOpen());
 }
 
+TEST_F(JumpTo, ItStaysInTheMiddleWhenTheWindowBecomesAnotherSize) {
+    desk.PressKey('J', true);
+    desk.PressKey(KeyF1 + 10);
+    const auto& back = desk.Main->View.picBack.Place;
+    const auto& box = desk.Main->Keys.PicJumpToLink.Place;
+    EXPECT_FLOAT_EQ(box.Left + box.Width / 2, back.Width / 2);
+}
+
 TEST_F(JumpTo, NothingOpensWhileLoadingOrExiting) {
     Main().IsExiting = true;
     ShowPicJumpTo(Main(), "x", true, false);

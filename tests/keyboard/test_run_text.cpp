@@ -130,9 +130,20 @@ TEST_F(Running, ASecondHitOfEnterDoesNothingMore) {
 TEST_F(Running, ACommandStaysOneAndGetsNothingThatWasTyped) {
     Main().Link(0).Command = true;
     Main().Link(0).Parameters = "df -h";
-    Run("note; rm x");
-    EXPECT_EQ(Started(), "");
-    Run("note");
+    for (const char* text : {"notepad rm x", "notepad; rm x", "Notepad !"}) {
+        Run(text);
+        EXPECT_EQ(Started(), "") << text;
+        desk.PressKey(KeyReturn, true);
+        EXPECT_EQ(Started(), "") << text << ": nor as administrator";
+    }
+    Type("note");
+    Press(KeyTab);
+    desk.Type("rm x");
+    Enter();
+    EXPECT_EQ(Started(), "") << "nor behind what Tab has completed";
+    Type("note");
+    Press(KeyTab);
+    Enter();
     EXPECT_EQ(Started(), "command df -h");
 }
 

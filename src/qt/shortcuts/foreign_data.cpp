@@ -5,11 +5,9 @@
 
 #include <QMimeData>
 #include <QSysInfo>
-#include <QUrl>
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 #include <string_view>
 
 namespace quill {
@@ -41,24 +39,9 @@ ForeignData ReadCopiedFiles(const QByteArray& bytes) {
     return data;
 }
 
-// The address and its title, a line each; browsers write them with two bytes a letter, some older ones do
-// not.
+// The address and its title, a line each.
 ForeignData ReadAddressAndTitle(const QByteArray& bytes) {
-    const bool wide = bytes.size() >= 2 && bytes.size() % 2 == 0 && bytes[1] == '\0';
-    const QByteArray text =
-        wide ? QString::fromUtf16(reinterpret_cast<const char16_t*>(bytes.constData()), bytes.size() / 2)
-                   .toUtf8()
-             : bytes;
-    return ReadPlainList(text.left(text.indexOf('\n')));
-}
-
-// An address in the form of browsers alone is called a list of files by the toolkit, which then hands it out
-// only as it has read it.
-ForeignData ReadToolkitsUrls(const QMimeData& mime) {
-    if (!mime.hasFormat(QLatin1String(uriList))) return {};
-    QByteArray lines;
-    for (const QUrl& url : mime.urls()) lines += url.toEncoded() + '\n';
-    return ReadPlainList(lines);
+    return ReadPlainList(bytes.left(bytes.indexOf('\n')));
 }
 
 struct Format {
@@ -66,11 +49,11 @@ struct Format {
     ForeignData (*Read)(const QByteArray&);
 };
 
-// The first that holds something counts.
+// The first that holds something counts. The wide form of browsers is a list of files by the time that the
+// toolkit hands it out, and what is offered as a list goes out in that form as well.
 constexpr Format formats[] = {
     {"x-special/gnome-copied-files", &ReadCopiedFiles},
     {uriList, &ReadPlainList},
-    {"text/x-moz-url", &ReadAddressAndTitle},
     {"_NETSCAPE_URL", &ReadAddressAndTitle},
 };
 
@@ -85,7 +68,7 @@ ForeignData ReadForeignData(const QMimeData& mime) {
         data.Cut |= mime.data(QLatin1String(kdeCut)).startsWith('1');
         return data;
     }
-    return ReadToolkitsUrls(mime);
+    return {};
 }
 
 // The toolkit makes a text of a list of files where there is no other; that one is not asked for.

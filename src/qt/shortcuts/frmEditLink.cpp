@@ -92,10 +92,10 @@ void frmEditLinkForm::NameButtons() {
     auto* buttons = findChild<QDialogButtonBox*>();
     auto* ok = buttons->button(QDialogButtonBox::Ok);
     ok->setObjectName(QStringLiteral("cmdEditOK"));
-    ok->setText(Caption("OK"));
+    Label(*ok, "OK");
     auto* cancel = buttons->button(QDialogButtonBox::Cancel);
     cancel->setObjectName(QStringLiteral("cmdEditCancel"));
-    cancel->setText(Caption("&Cancel"));
+    Label(*cancel, "&Cancel");
     auto* properties = AddButton(Caption("Windows file properties"));
     properties->setObjectName(QStringLiteral("cmdProperties"));
     properties->setAutoDefault(false);
@@ -112,6 +112,15 @@ void frmEditLinkForm::NameButtons() {
 }
 
 // ---- parts
+
+void frmEditLinkForm::Label(QAbstractButton& button, const char* english) const {
+    button.setText(Caption(english));
+}
+
+// Shown where nothing is written yet.
+void frmEditLinkForm::Hint(QLineEdit& line, const char* english) const {
+    line.setPlaceholderText(Said(english));
+}
 
 // The bridge of assistive technology tells a field by its name; what it is for follows as its description.
 void frmEditLinkForm::Name(QWidget* widget, const char* name, const QString& spoken, const QString& tip) {
@@ -215,7 +224,7 @@ void frmEditLinkForm::AddTarget() {
     target_->addRow(lblParam_, txtParam_);
     auto* start = AddText("txtStartIn", LinkField::StartIn, &LinkProperties::txtStartIn,
                           "Start in:", "Start in folder");
-    start->setPlaceholderText(Said("Specify a working directory"));
+    Hint(*start, "Specify a working directory");
     AddPair(
         *target_, "Start in:", start,
         AddBrowse("cmdBrowseStartIn", "Browse for the start folder", &frmEditLink::cmdBrowseStartIn_Click));
@@ -223,7 +232,7 @@ void frmEditLinkForm::AddTarget() {
                       LinkField::RunIn, "Initial window state");
     ChkCommand_ = AddCheck("ChkCommand", LinkField::Command, &LinkProperties::ChkCommand, "&Command",
                            "Enter a command to execute instead of a shortcut (Command Prompt)");
-    ChkCommand_->setText(Caption("&Command"));
+    Label(*ChkCommand_, "&Command");
     connect(ChkCommand_, &QCheckBox::clicked, this, [this] { Do([this] { dialog_.ChkCommand_Click(); }); });
     AddPair(*target_, "Run:", cboRun_, ChkCommand_)->addStretch();
     lblRelativePath_ = new QLabel;
@@ -242,7 +251,7 @@ void frmEditLinkForm::AddAdvanced() {
             AddBrowse("cmdChooseFileIcon", "Browse for the icon", &frmEditLink::cmdChooseFileIcon_Click));
     auto* tags = AddText("txtTags", LinkField::Tags, &LinkProperties::txtTags,
                          "Tags:", "Use commas to separate multiple tags");
-    tags->setPlaceholderText(Said("Separate with commas"));
+    Hint(*tags, "Separate with commas");
     cboTags_ = new ChoiceBox;
     Name(cboTags_, "cboTags", Said("Existing Tags"), QString());
     for (const auto& tag : dialog_.cboTags()) cboTags_->addItem(Text(tag));
@@ -261,7 +270,7 @@ void frmEditLinkForm::AddAdvanced() {
                               "The number that starts this shortcut when it is typed on the workspace");
     auto* tagStart = AddCheck("chkTagStart", LinkField::TagStart, &LinkProperties::chkTagStart, "&Tag Start",
                               "A click starts every shortcut that has one of these tags");
-    tagStart->setText(Caption("&Tag Start"));
+    Label(*tagStart, "&Tag Start");
     AddPair(*fields, "Speed Launch:", cboSpeedLaunch_, tagStart)->addStretch();
     AddCheckRow(*fields);
 }
@@ -354,7 +363,8 @@ void frmEditLinkForm::ShowCommand() {
     const bool command = ChkCommand_->checkState() == Qt::Checked;
     target_->setRowVisible(pathRow_, !command);
     const QString parameters = Caption("Parameters:");
-    lblParam_->setText(command ? WithLetter(Said("Command:"), MarkedLetter(parameters)) : parameters);
+    const QString line = Said("Command:");
+    lblParam_->setText(command ? WithLetter(line, MarkedLetter(parameters)) : parameters);
     lblParam_->setToolTip(PlainTip(Text(dialog_.ParamTip())));
     Name(txtParam_, "txtParam", Text(dialog_.ParamCaption()), Text(dialog_.ParamFieldTip()));
     const QString relative = Text(dialog_.lblRelativePath());

@@ -10,6 +10,7 @@
 #include <functional>
 #include <vector>
 
+class QAbstractButton;
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
@@ -61,6 +62,8 @@ private:
                        const char* tip);
     QPushButton* AddBrowse(const char* name, const char* spoken, void (frmEditLink::*browse)());
     void Name(QWidget* widget, const char* name, const QString& spoken, const QString& tip);
+    void Label(QAbstractButton& button, const char* english) const;
+    void Hint(QLineEdit& line, const char* english) const;
     QString Said(const char* english) const;    // as a person reads it
     QString Caption(const char* english) const; // with the letter that it has here
     void Do(const std::function<void()>& act);  // the dialog acts on what stands in the form

@@ -21,7 +21,6 @@ namespace {
 
 constexpr const char* objectsFormat = "application/x-quillmere-objects"; // a line each: kind and index
 constexpr const char* uriFormat = "text/uri-list";
-constexpr const char* browserFormat = "text/x-moz-url";
 constexpr qreal largestPicture = 240; // pixels; a larger one would hide where it is dropped
 
 QByteArray ObjectLines(const DragData& data) {
@@ -59,17 +58,6 @@ QByteArray UriLines(const DragData& data) {
     return lines;
 }
 
-// The form in which browsers hand an address to each other: it and a title, two bytes a letter.
-QByteArray BrowserAddress(const std::string& address) {
-    const QString line = QString::fromLatin1(UriOf(address));
-    const QString both = line + QLatin1Char('\n') + line;
-    return {reinterpret_cast<const char*>(both.utf16()), both.size() * 2};
-}
-
-bool IsOneAddress(const DragData& data) {
-    return data.Files.empty() && data.Addresses.size() == 1;
-}
-
 } // namespace
 
 std::unique_ptr<QMimeData> MimeOf(const DragData& data) {
@@ -77,7 +65,6 @@ std::unique_ptr<QMimeData> MimeOf(const DragData& data) {
     mime->setData(QLatin1String(objectsFormat), ObjectLines(data));
     if (const QByteArray uris = UriLines(data); !uris.isEmpty())
         mime->setData(QLatin1String(uriFormat), uris);
-    if (IsOneAddress(data)) mime->setData(QLatin1String(browserFormat), BrowserAddress(data.Addresses[0]));
     if (!data.Text.empty()) mime->setText(Text(data.Text));
     return mime;
 }
