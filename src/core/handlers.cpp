@@ -125,12 +125,14 @@ bool CancelByOtherButton(frmMain& Main, const MouseEvent& event) {
     return true;
 }
 
-// What is dragged over the bar brings the workspace out, and is dropped there.
+// What is dragged over the bar brings the workspace out, and is dropped there. While another program has the
+// pointer nobody tells that it has come over the workspace, which would go again at the next heartbeat.
 DropAnswer DragOverBar(frmMain& Main, const DragEvent& event) {
     MouseEvent mouse;
     mouse.At = event.At, mouse.Screen = event.Screen;
     mouse.Button = MouseButton::Left;
     frmMiniDock_MouseMove(Main, mouse);
+    Main.Dock.PointerAway = false;
     return DropAnswer::Refused;
 }
 

@@ -257,6 +257,19 @@ TEST_F(MiniDock, WhatIsDraggedOverTheBarBringsTheWorkspaceOutAlsoWithUndockOnCli
     }
 }
 
+// Who drags has the pointer for itself: the window system tells of no crossing.
+TEST_F(MiniDock, WhatIsBeingDraggedFindsItOutUntilThePointerHasGone) {
+    StartResting();
+    desk.DragOverBar();
+    clock.Advance(260);
+    EXPECT_EQ(State(), "out");
+    clock.Advance(5000);
+    EXPECT_EQ(State(), "out") << "the pointer is over it, though nobody has said so";
+    windows.Cursor = {14400, 8100};
+    clock.Advance(5000);
+    EXPECT_EQ(State(), "docked");
+}
+
 TEST_F(MiniDock, ADragThatPassesByOpensNothing) {
     StartResting();
     desk.DragOverBar();

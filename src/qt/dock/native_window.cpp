@@ -127,6 +127,7 @@ public:
 
     // Outwards the type that is left alone comes first and the place after it, inwards the other way round.
     void Place(const QRect& place) {
+        placed_ = place.topLeft();
         beyond_ = ReachesBeyondTheScreens(place, WorkArea());
         if (beyond_) Apply();
         widget_.setGeometry(place);
@@ -166,7 +167,7 @@ public:
         if (object == &widget_ && event->type() == QEvent::Show) Shown();
         if (object == &widget_ && event->type() == QEvent::Hide) told_ = called_ = false;
         if (object == &widget_) return false;
-        if (event->type() == QEvent::DragEnter) x11::TellPlace(Id(widget_));
+        if (event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove) CheckPlaceOfDrag();
         if (event->type() == QEvent::MouseButtonPress) {
             CheckPlace(static_cast<const QMouseEvent&>(*event));
             Clicked();
@@ -235,10 +236,15 @@ private:
     }
 
     // A busy window manager may have left the toolkit with a wrong place, and what is dragged is led by it. A
-    // press tells the true one for nothing; what others drag here does not, so there the server is asked.
+    // press tells the true one for nothing; what others drag here does not, so there the server is asked
+    // until the toolkit has the window where it was put.
     void CheckPlace(const QMouseEvent& press) {
         const QPoint corner = (press.globalPosition() - press.position()).toPoint();
         if (corner != widget_.windowHandle()->position()) x11::TellPlace(Id(widget_));
+    }
+
+    void CheckPlaceOfDrag() {
+        if (widget_.windowHandle()->position() != placed_) x11::TellPlace(Id(widget_));
     }
 
     // Some window managers give a dock no keyboard for a click.
@@ -326,6 +332,7 @@ private:
     std::optional<Numbers> workArea_; // of all desktops together, as it was announced last
     Layer standing_ = Layer::Top;     // as last told
     bool ordinary_ = false;           // the type as last written
+    QPoint placed_;                   // where it was put last
     bool told_ = false;               // the window manager has the window and knows its states
     bool onTop_ = true;
     bool beyond_ = false; // reaches over the edge of the screens
