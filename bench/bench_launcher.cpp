@@ -37,7 +37,7 @@ class Desk {
 public:
     explicit Desk(const std::string& configuration) {
         computer_.Places.Folders[SpecialFolder::Configuration] = configuration;
-        main_ = std::make_unique<frmMain>(Ports());
+        main_ = std::make_unique<frmMain>(computer_.MakePlatform(files_));
         main_->Start.NoSplash = true;
         SettleSettingsFolder(*main_);
         LoadSettings(*main_);
@@ -49,14 +49,6 @@ public:
     std::string LastQuestion() const { return computer_.Questions.LastBox(); }
 
 private:
-    Platform Ports() {
-        const auto fake = computer_.MakePlatform();
-        return {files_,       fake.Places,    fake.Clock,     fake.Instance,  fake.Session,
-                fake.Windows, fake.Shell,     fake.Questions, fake.Dialogs,   fake.Drags,
-                fake.Texts,   fake.Catalogue, fake.Images,    fake.Worker,    fake.Zip,
-                fake.Tray,    fake.Hotkeys,   fake.Counters,  fake.Clipboard, fake.Web};
-    }
-
     fake::Computer computer_;
     FilesPosix files_;
     std::unique_ptr<frmMain> main_;

@@ -5,6 +5,7 @@
 #include "appearance/palette.h"
 #include "core/element_walk.h"
 #include "core/objects.h"
+#include "shortcuts/foreign_text.h"
 #include "shortcuts/icons.h"
 #include "shortcuts/speed_launch.h"
 
@@ -32,13 +33,6 @@ Color PlateColor(Color ground) {
     return ExtremeOn(ground) == 0 ? Darker(ground, false) : Lighter(ground, false);
 }
 
-// A caption may hold anything; here it is one line.
-std::string OneLine(std::string text) {
-    for (char& sign : text)
-        if (static_cast<unsigned char>(sign) < ' ') sign = ' ';
-    return text;
-}
-
 void PaintIcon(const frmMain& Main, int shortcut, const Rect& place, Color ink, Canvas& canvas) {
     if (!canvas.Icon(GetIconSource(Main, shortcut, true), place))
         canvas.Symbol(GenericSymbol(Main.Link(shortcut)), place, ink, SymbolOpacity);
@@ -61,7 +55,7 @@ void PaintRow(const frmMain& Main, int row, Canvas& canvas) {
     style.Ink = empty ? PaleInkOn(ink, ground) : ink;
     style.VerticalCenter = style.Elide = true;
     canvas.Text(PlaceOfSpeedLaunchNumber(row), std::to_string(row + 1), style);
-    canvas.Text(PlaceOfSpeedLaunchName(row), OneLine(shown.Caption), style);
+    canvas.Text(PlaceOfSpeedLaunchName(row), ShownLine(shown.Caption), style);
 }
 
 } // namespace

@@ -7,6 +7,9 @@
 
 namespace quill {
 
+constexpr char LowerAscii(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
 std::string LowerCase(std::string_view utf8); // bytes that are no UTF-8 stay as they are
 
 } // namespace quill

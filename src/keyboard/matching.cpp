@@ -19,8 +19,7 @@ bool IsAscii(std::string_view text) {
 std::string Folded(std::string_view caption) {
     if (!IsAscii(caption)) return LowerCase(caption);
     std::string lower(caption);
-    for (char& letter : lower)
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+    for (char& letter : lower) letter = LowerAscii(letter);
     return lower;
 }
 

@@ -33,8 +33,7 @@ bool IsPrefix(std::string_view text) {
 TypedMeaning CommandOf(std::string_view text) {
     if (text.front() == '=') return {Meaning::Calculator, -1, -1, std::string(Trimmed(text.substr(1)))};
     if (!IsPrefix(text)) return {};
-    const char letter = text[0] >= 'A' && text[0] <= 'Z' ? static_cast<char>(text[0] - 'A' + 'a') : text[0];
-    const auto row = std::ranges::find(commands, letter, &CommandRow::Letter);
+    const auto row = std::ranges::find(commands, LowerAscii(text[0]), &CommandRow::Letter);
     if (row == std::end(commands)) return {};
     const auto rest = text.substr(2), argument = Trimmed(rest);
     if (row->What == Meaning::TagStart && argument.empty()) return {};

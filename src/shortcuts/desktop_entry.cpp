@@ -7,13 +7,6 @@
 namespace quill {
 namespace {
 
-std::string_view TakeLine(std::string_view& rest) {
-    const auto end = rest.find('\n');
-    const auto line = rest.substr(0, end);
-    rest.remove_prefix(end == rest.npos ? rest.size() : end + 1);
-    return WithoutBlanks(line);
-}
-
 // A backslash makes a blank, a line end, a tab or itself of the next letter; before any other it stands.
 std::string Unescaped(std::string_view value) {
     constexpr std::string_view written = "sntr\\", meant = " \n\t\r\\";

@@ -1,5 +1,7 @@
 #include "shortcuts/foreign_text.h"
 
+#include "core/lower_case.h"
+
 #include "persistence/line_reader.h"
 #include "persistence/text_values.h"
 
@@ -40,10 +42,6 @@ std::string WithLineFeeds(std::string_view text) {
         if (!paired) lines += text[at] == '\r' ? '\n' : text[at];
     }
     return lines;
-}
-
-char LowerAscii(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
 } // namespace
@@ -88,6 +86,13 @@ std::string ShownLine(std::string_view text) {
     std::string line;
     AppendValue(line, text);
     return line;
+}
+
+std::string_view TakeLine(std::string_view& rest) {
+    const auto end = rest.find('\n');
+    const auto line = rest.substr(0, end);
+    rest.remove_prefix(end == rest.npos ? rest.size() : end + 1);
+    return WithoutBlanks(line);
 }
 
 std::string_view WithoutBlanks(std::string_view text) {

@@ -16,6 +16,8 @@ std::string FromWindows1252(std::string_view bytes);
 // A whole text file: by its byte order mark, else UTF-8, and each line that is not in it as Windows-1252.
 // Lines end in LF afterwards, whatever they ended in.
 std::string FromTextFile(std::string_view bytes);
+// The next line of such a text, without blanks at its ends; rest is what follows it.
+std::string_view TakeLine(std::string_view& rest);
 // One line as it can be shown: control characters are blanks, and all of it is letters.
 std::string ShownLine(std::string_view text);
 

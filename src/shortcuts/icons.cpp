@@ -1,6 +1,7 @@
 #include "shortcuts/icons.h"
 
 #include "appearance/wallpaper.h"
+#include "core/lower_case.h"
 #include "shortcuts/create.h"
 
 #include <algorithm>
@@ -16,8 +17,7 @@ std::string Ending(std::string_view path) {
     const auto name = path.substr(path.find_last_of('/') + 1);
     const auto dot = name.find_last_of('.');
     std::string ending(dot == std::string_view::npos || dot == 0 ? "" : name.substr(dot));
-    for (char& letter : ending)
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+    for (char& letter : ending) letter = LowerAscii(letter);
     return ending;
 }
 

@@ -2,6 +2,7 @@
 #include "shortcuts/create.h"
 
 #include "platform/places.h"
+#include "shortcuts/foreign_text.h"
 #include "shortcuts/uri_list.h"
 
 #include <algorithm>
@@ -13,16 +14,6 @@ namespace {
 
 constexpr char DriveMarker = '@';
 constexpr std::string_view FileScheme = "file://";
-
-char LowerAscii(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-bool EndsWithAnyCase(std::string_view text, std::string_view ending) {
-    return text.size() >= ending.size() &&
-           std::equal(ending.begin(), ending.end(), text.end() - static_cast<std::ptrdiff_t>(ending.size()),
-                      [](char one, char other) { return one == LowerAscii(other); });
-}
 
 // The mount point of the program without a separator at its end: "" for the root.
 std::string ProgramDrive(const frmMain& Main) {
@@ -42,7 +33,7 @@ std::string CaptionOfPath(const std::string& path) {
     std::string name = path.substr(path.find_last_of('/') + 1);
     if (name.empty()) return path; // the root
     for (std::string_view ending : {".lnk", ".exe", ".url"})
-        if (EndsWithAnyCase(name, ending)) return name.substr(0, name.size() - ending.size());
+        if (EndsInAnyCase(name, ending)) return name.substr(0, name.size() - ending.size());
     return name;
 }
 

@@ -1,15 +1,13 @@
 #include "shortcuts/uri_list.h"
 
+#include "core/lower_case.h"
+
 #include <algorithm>
 
 namespace quill {
 namespace {
 
 constexpr std::string_view fileScheme = "file:";
-
-char LowerAscii(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
 
 bool IsLetter(char letter) {
     return LowerAscii(letter) >= 'a' && LowerAscii(letter) <= 'z';

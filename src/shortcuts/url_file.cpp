@@ -5,13 +5,6 @@
 namespace quill {
 namespace {
 
-std::string_view TakeLine(std::string_view& rest) {
-    const auto end = rest.find('\n');
-    const auto line = rest.substr(0, end);
-    rest.remove_prefix(end == rest.npos ? rest.size() : end + 1);
-    return WithoutBlanks(line);
-}
-
 std::string_view Unquoted(std::string_view value) {
     const bool quoted = value.size() >= 2 && value.front() == '"' && value.back() == '"';
     return quoted ? WithoutBlanks(value.substr(1, value.size() - 2)) : value;

@@ -20,8 +20,8 @@ Computer::Computer() {
     Session.OnQuit = [this] { Questions.Ending = true; };
 }
 
-Platform Computer::MakePlatform() {
-    return {Files, Places,    Clock,  Instance, Session, Windows, Shell,   Questions, Dialogs,   Drags,
+Platform Computer::MakePlatform(quill::Files& files) {
+    return {files, Places,    Clock,  Instance, Session, Windows, Shell,   Questions, Dialogs,   Drags,
             Texts, Catalogue, Images, Worker,   Zip,     Tray,    Hotkeys, Counters,  Clipboard, Web};
 }
 

@@ -35,7 +35,8 @@ struct Computer {
     Computer(const Computer&) = delete;
     Computer& operator=(const Computer&) = delete;
 
-    Platform MakePlatform();
+    Platform MakePlatform() { return MakePlatform(Files); }
+    Platform MakePlatform(quill::Files& files); // with another file tree, as the disk's own
     void EndProcess(); // timers, jobs, windows and the attached workspace are gone; disk and logs stay
 
     FakeFiles Files;
